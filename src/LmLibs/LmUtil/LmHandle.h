@@ -1,0 +1,101 @@
+#pragma once
+
+#include "LmLibs/LmUtil/LmHandleBase.h"
+#include "LmLibs/LmUtil/LmTypeTest.h"
+#include "core/Assertion.h"
+
+#include <cstddef>
+
+/// A counted reference to a `T`, one pointer wide; `T` derives from LmObject. The last handle ends its object.
+///
+/// Different handles to one object may be used by different threads; one handle belongs to one thread at a time.
+template <typename T>
+class LmHandle : public LmHandleBase
+{
+public:
+    LmHandle() noexcept : LmHandleBase(nullptr) {}
+    LmHandle(std::nullptr_t) noexcept : LmHandleBase(nullptr) {}
+
+    /// Shares the object, or owns one that is new.
+    LmHandle(T* pObject) noexcept : LmHandleBase(pObject) {}
+
+    LmHandle(const LmHandle&) noexcept = default;
+    LmHandle(LmHandle&&) noexcept = default;
+
+    /// Shares the object of a handle of a related type; empty when that object is no `T`.
+    template <typename U>
+    LmHandle(const LmHandle<U>& other) noexcept : LmHandleBase(other.object(), LmTypeTest<T>::sCast(other.object()))
+    {
+    }
+
+    LmHandle& operator=(const LmHandle&) noexcept = default;
+    LmHandle& operator=(LmHandle&&) noexcept = default;
+
+    LmHandle& operator=(T* pObject) noexcept
+    {
+        assign(pObject);
+        return *this;
+    }
+
+    template <typename U>
+    LmHandle& operator=(const LmHandle<U>& other) noexcept
+    {
+        return *this = LmHandle(other);
+    }
+
+    ~LmHandle() = default;
+
+    bool isNull() const noexcept { return object() == nullptr; }
+    explicit operator bool() const noexcept { return !isNull(); }
+
+    /// The object, or a null pointer for an empty handle. An object that is no `T` raises the assertion "pObj!=0" and
+    /// gives a null pointer.
+    T* operator->() const { return dereference(); }
+    operator T*() const { return dereference(); }
+
+    friend bool operator==(const LmHandle& left, const LmHandle& right)
+    {
+        return left.dereference() == right.dereference();
+    }
+    friend bool operator!=(const LmHandle& left, const LmHandle& right) { return !(left == right); }
+    template <typename U>
+    friend bool operator==(const LmHandle& left, const LmHandle<U>& right)
+    {
+        return left.object() == LmHandle<LmObject>(right).object();
+    }
+    template <typename U>
+    friend bool operator!=(const LmHandle& left, const LmHandle<U>& right)
+    {
+        return !(left == right);
+    }
+    friend bool operator==(const LmHandle& left, const T* right) { return left.dereference() == right; }
+    friend bool operator!=(const LmHandle& left, const T* right) { return left.dereference() != right; }
+    friend bool operator==(const T* left, const LmHandle& right) { return left == right.dereference(); }
+    friend bool operator!=(const T* left, const LmHandle& right) { return left != right.dereference(); }
+    friend bool operator==(const LmHandle& handle, std::nullptr_t) { return handle.isNull(); }
+    friend bool operator!=(const LmHandle& handle, std::nullptr_t) { return !handle.isNull(); }
+    friend bool operator==(std::nullptr_t, const LmHandle& handle) { return handle.isNull(); }
+    friend bool operator!=(std::nullptr_t, const LmHandle& handle) { return !handle.isNull(); }
+
+protected:
+    LmHandle(T* pCounted, Adopt adopt) noexcept : LmHandleBase(pCounted, adopt) {}
+
+private:
+    template <typename U>
+    friend class LmHandle;
+
+    T* dereference() const
+    {
+        LmObject* const pStored = object();
+        if (pStored == nullptr)
+        {
+            return nullptr;
+        }
+        T* const pObj = LmTypeTest<T>::sCast(pStored);
+        if (pObj == nullptr)
+        {
+            Quorvex::Assertion(false, "pObj!=0", "LmHandle", __LINE__);
+        }
+        return pObj;
+    }
+};

@@ -1,0 +1,37 @@
+#include "LmLibs/LmUtil/LmOutputStream.h"
+
+#include <charconv>
+
+LmOutputStream::~LmOutputStream() = default;
+
+void LmOutputStream::flush() {}
+
+LmOutputStream& LmOutputStream::operator<<(const char* text)
+{
+    if (text != nullptr)
+    {
+        writeAll(text);
+    }
+    return *this;
+}
+
+LmOutputStream& LmOutputStream::operator<<(unsigned int number)
+{
+    char digits[10];
+    const std::to_chars_result result = std::to_chars(digits, digits + sizeof digits, number);
+    write(digits, static_cast<unsigned int>(result.ptr - digits));
+    return *this;
+}
+
+void LmOutputStream::writeAll(std::string_view text)
+{
+    constexpr std::size_t largest = 0x40000000;
+    for (; text.size() > largest; text.remove_prefix(largest))
+    {
+        write(text.data(), static_cast<unsigned int>(largest));
+    }
+    if (!text.empty())
+    {
+        write(text.data(), static_cast<unsigned int>(text.size()));
+    }
+}

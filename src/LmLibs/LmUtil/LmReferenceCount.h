@@ -1,0 +1,67 @@
+#pragma once
+
+#include <sys/single_threaded.h>
+
+#include <atomic>
+#include <cstdint>
+
+/// The count of an object's references, safe when handles to one object live in several threads.
+///
+/// Three things keep it cheap: a process that has never had a second thread counts without atomic operations; a
+/// reference taken or given up by the only owner needs none either; and an immortal object is not counted at all, so
+/// that threads that share one do not wait for each other.
+class LmReferenceCount
+{
+public:
+    constexpr LmReferenceCount() = default;
+
+    /// A count that never moves, for an object that is never destroyed.
+    struct Immortal
+    {
+    };
+    explicit constexpr LmReferenceCount(Immortal) : m_Count(sm_Immortal) {}
+
+    /// Gives the count after the call.
+    std::uint32_t increment() noexcept
+    {
+        const std::uint32_t count = m_Count.load(std::memory_order_relaxed);
+        if (count == sm_Immortal)
+        {
+            return count;
+        }
+        // An object without an owner is in the hands of one thread only.
+        if (count == 0 || __libc_single_threaded)
+        {
+            m_Count.store(count + 1, std::memory_order_relaxed);
+            return count + 1;
+        }
+        return m_Count.fetch_add(1, std::memory_order_relaxed) + 1;
+    }
+
+    /// Gives the count after the call. What other owners did to the object is visible to the caller who gets 0.
+    std::uint32_t decrement() noexcept
+    {
+        const std::uint32_t count = m_Count.load(std::memory_order_acquire);
+        if (count == sm_Immortal || count == 0)
+        {
+            return count;
+        }
+        if (count == 1 || __libc_single_threaded)
+        {
+            m_Count.store(count - 1, std::memory_order_relaxed);
+            return count - 1;
+        }
+        return m_Count.fetch_sub(1, std::memory_order_acq_rel) - 1;
+    }
+
+    /// True when the caller, who holds a reference, holds the only one.
+    bool isOne() const noexcept { return m_Count.load(std::memory_order_acquire) == 1; }
+
+    /// True before the first owner has come.
+    bool isZero() const noexcept { return m_Count.load(std::memory_order_relaxed) == 0; }
+
+private:
+    static constexpr std::uint32_t sm_Immortal = 0xFFFFFFFF;
+
+    std::atomic<std::uint32_t> m_Count{0};
+};

@@ -1,0 +1,3 @@
+#include "LmLibs/LmUtil/LmSerializable.h"
+
+LmSerializable::~LmSerializable() = default;

@@ -1,0 +1,138 @@
+#pragma once
+
+#include "LmLibs/LmUtil/LmCharacters.h"
+#include "LmLibs/LmUtil/LmInputStream.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// Two ways of walking over a stream with the same operations, so that each reading operation is written once: over
+/// the window of a stream that has one, and through the virtual operations of any other.
+
+/// Walks over a stream's window; nothing is copied. The stream follows when the cursor goes.
+class LmWindowCursor
+{
+public:
+    explicit LmWindowCursor(LmInputStream& in) : m_In(in), m_Next(in.windowBegin()), m_End(in.windowEnd()) {}
+    LmWindowCursor(const LmWindowCursor&) = delete;
+    LmWindowCursor& operator=(const LmWindowCursor&) = delete;
+    ~LmWindowCursor() { m_In.consumeTo(m_Next); }
+
+    /// The next byte, unread, or -1 at the end of input.
+    int peek() const { return m_Next == m_End ? -1 : static_cast<unsigned char>(*m_Next); }
+    void advance() { ++m_Next; }
+
+    template <typename Predicate>
+    void skipWhile(Predicate isWanted)
+    {
+        while (m_Next != m_End && isWanted(static_cast<unsigned char>(*m_Next)))
+        {
+            ++m_Next;
+        }
+    }
+
+    /// The bytes in front of the first that is a stop, valid until the next `takeUntil` or until the stream goes.
+    template <typename Predicate>
+    std::string_view takeUntil(Predicate isStop)
+    {
+        const char* const begin = m_Next;
+        skipWhile([&isStop](int c) { return !isStop(c); });
+        return {begin, static_cast<std::size_t>(m_Next - begin)};
+    }
+
+    std::string_view takeUntilLineEnd()
+    {
+        const char* const begin = m_Next;
+        m_Next = lmFindLineEnd(m_Next, m_End);
+        return {begin, static_cast<std::size_t>(m_Next - begin)};
+    }
+
+private:
+    LmInputStream& m_In;
+    const char* m_Next;
+    const char* const m_End;
+};
+
+/// Walks over a stream byte by byte.
+class LmByteCursor
+{
+public:
+    explicit LmByteCursor(LmInputStream& in) : m_In(in) {}
+    LmByteCursor(const LmByteCursor&) = delete;
+    LmByteCursor& operator=(const LmByteCursor&) = delete;
+
+    int peek()
+    {
+        m_In.mark(1);
+        const int next = m_In.read();
+        m_In.reset();
+        return next;
+    }
+    void advance() { m_In.read(); }
+
+    template <typename Predicate>
+    void skipWhile(Predicate isWanted)
+    {
+        for (int next = peek(); next != -1 && isWanted(next); next = peek())
+        {
+            advance();
+        }
+    }
+
+    /// The bytes in front of the first that is a stop, valid until the next `takeUntil` or until the cursor goes.
+    template <typename Predicate>
+    std::string_view takeUntil(Predicate isStop)
+    {
+        m_Taken.clear();
+        skipWhile([this, &isStop](int c) {
+            const bool wanted = !isStop(c);
+            if (wanted)
+            {
+                m_Taken.push_back(static_cast<char>(c));
+            }
+            return wanted;
+        });
+        return m_Taken;
+    }
+
+    std::string_view takeUntilLineEnd()
+    {
+        return takeUntil([](int c) { return lmIsLineEnd(c); });
+    }
+
+private:
+    LmInputStream& m_In;
+    std::string m_Taken;
+};
+
+/// Calls `operation` with the cursor that fits the stream.
+template <typename Operation>
+auto lmWithCursor(LmInputStream& in, Operation operation)
+{
+    if (in.hasWindow())
+    {
+        LmWindowCursor cursor(in);
+        return operation(cursor);
+    }
+    LmByteCursor cursor(in);
+    return operation(cursor);
+}
+
+/// Takes the rest of a line and consumes its line end: CR LF, a lone LF, a lone CR or the end of input. The view is
+/// valid as that of `takeUntil` is.
+template <typename Cursor>
+std::string_view lmTakeLine(Cursor& cursor)
+{
+    const std::string_view line = cursor.takeUntilLineEnd();
+    const int end = cursor.peek();
+    if (end != -1)
+    {
+        cursor.advance();
+    }
+    if (end == '\r' && cursor.peek() == '\n')
+    {
+        cursor.advance();
+    }
+    return line;
+}

@@ -1,0 +1,253 @@
+#include "LmLibs/LmUtil/LmStringBuffer.h"
+
+#include "LmLibs/LmUtil/LmCharacters.h"
+#include "core/ThreadHeap.h"
+
+#include <algorithm>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <new>
+
+using Quorvex::ThreadHeap;
+
+namespace
+{
+
+constexpr std::size_t s_Granule = 16;
+constexpr std::size_t s_RoomInFront = sizeof(std::uint32_t);
+constexpr std::size_t s_OutsideHead = 8; ///< keeps the room number of an outside text aligned
+
+std::size_t innerBytes(std::size_t room)
+{
+    return sizeof(LmStringBuffer) + s_RoomInFront + room + 1;
+}
+
+} // namespace
+
+/// The shared empty text, its room number in front of it as in a block of its own.
+struct LmEmptyText
+{
+    constexpr LmEmptyText() : m_Buffer(m_Text) {}
+
+    std::uint32_t m_Room = 0;
+    char m_Text[4] = {};
+    LmStringBuffer m_Buffer;
+};
+
+namespace
+{
+
+/// Keeps it from being destroyed at exit.
+union Undying
+{
+    constexpr Undying() : empty() {}
+    ~Undying() {}
+
+    LmEmptyText empty;
+};
+
+Undying s_Empty;
+
+} // namespace
+
+LmStringBuffer* const LmStringBuffer::sm_pEmpty = &s_Empty.empty.m_Buffer;
+
+LmStringBuffer* LmStringBuffer::sCreate(const char* text, unsigned int length, unsigned int capacity)
+{
+    const std::string_view whole =
+        length == 0 || text == nullptr ? lmViewOf(text) : std::string_view(text, ::strnlen(text, length));
+    return sCreate(whole, capacity);
+}
+
+LmStringBuffer* LmStringBuffer::sCreate(std::string_view text, unsigned int capacity)
+{
+    LmStringBuffer* const pBuffer = sMake(std::max<std::size_t>(text.size(), capacity));
+    std::memcpy(pBuffer->m_Text, text.data(), text.size());
+    pBuffer->setText(pBuffer->m_Text, text.size());
+    return pBuffer;
+}
+
+LmStringBuffer* LmStringBuffer::sCreateImmortal(std::string_view text)
+{
+    const auto room = static_cast<Room>(text.size());
+    void* const block = ::operator new(innerBytes(room));
+    char* const inner = sInnerText(block);
+    sRoom(inner) = room;
+    std::memcpy(inner, text.data(), text.size());
+    inner[room] = '\0';
+    return new (block) LmStringBuffer(LmReferenceCount::Immortal(), inner, room);
+}
+
+LmStringBuffer* LmStringBuffer::sMake(std::size_t room)
+{
+    const std::size_t blockBytes = (innerBytes(room) + s_Granule - 1) / s_Granule * s_Granule;
+    const std::size_t roundedRoom = room + (blockBytes - innerBytes(room));
+    if (roundedRoom > std::numeric_limits<Room>::max() / 2)
+    {
+        throw std::bad_alloc();
+    }
+    return new (static_cast<Room>(roundedRoom)) LmStringBuffer(static_cast<Room>(roundedRoom));
+}
+
+LmStringBuffer::LmStringBuffer(Room room) noexcept : m_Text(sInnerText(this))
+{
+    sRoom(m_Text) = room;
+}
+
+LmStringBuffer::LmStringBuffer(LmReferenceCount::Immortal immortal, char* text, Room length) noexcept
+    : LmObject(immortal), m_Length(length), m_Text(text)
+{
+}
+
+LmStringBuffer::~LmStringBuffer()
+{
+    dropOutsideText();
+}
+
+void* LmStringBuffer::operator new(std::size_t, Room room)
+{
+    return ThreadHeap::allocate(innerBytes(room));
+}
+
+void LmStringBuffer::operator delete(void* block, Room room) noexcept
+{
+    ThreadHeap::deallocate(block, innerBytes(room));
+}
+
+void LmStringBuffer::operator delete(void* block) noexcept
+{
+    ThreadHeap::deallocate(block, innerBytes(sRoom(sInnerText(block))));
+}
+
+char* LmStringBuffer::sInnerText(void* block) noexcept
+{
+    return static_cast<char*>(block) + sizeof(LmStringBuffer) + s_RoomInFront;
+}
+
+LmStringBuffer::Room& LmStringBuffer::sRoom(char* text) noexcept
+{
+    return *reinterpret_cast<Room*>(text - s_RoomInFront);
+}
+
+bool LmStringBuffer::isTextOutside() const noexcept
+{
+    return m_Text != nullptr && m_Text != sInnerText(const_cast<LmStringBuffer*>(this));
+}
+
+void LmStringBuffer::setText(char* text, std::size_t length) noexcept
+{
+    m_Text = text;
+    m_Text[length] = '\0';
+    m_Length = static_cast<Room>(length);
+}
+
+void LmStringBuffer::dropOutsideText() noexcept
+{
+    if (isTextOutside())
+    {
+        ::operator delete(m_Text - s_OutsideHead);
+    }
+}
+
+/// Makes room for a text of that length, keeping the present one.
+void LmStringBuffer::growTo(std::size_t length)
+{
+    if (m_Text == nullptr)
+    {
+        setText(sInnerText(this), 0);
+    }
+    const std::size_t present = sRoom(m_Text);
+    if (length <= present)
+    {
+        return;
+    }
+    if (length > std::numeric_limits<Room>::max() / 2)
+    {
+        throw std::bad_alloc();
+    }
+    const std::size_t room = std::max(length, present * 2);
+    char* const text = static_cast<char*>(::operator new(s_OutsideHead + room + 1)) + s_OutsideHead;
+    sRoom(text) = static_cast<Room>(room);
+    std::memcpy(text, m_Text, m_Length);
+    dropOutsideText();
+    setText(text, m_Length);
+}
+
+LmStringBuffer* LmStringBuffer::assign(const char* text)
+{
+    if (text == nullptr)
+    {
+        LmStringBuffer* const pTarget = isShared() ? sMake(0) : this;
+        pTarget->dropOutsideText();
+        pTarget->m_Text = nullptr;
+        pTarget->m_Length = 0;
+        return pTarget;
+    }
+    const std::size_t length = std::strlen(text);
+    if (isShared())
+    {
+        return sCreate({text, length});
+    }
+    // A text that is part of this one is never longer, so it is still there after growing.
+    growTo(length);
+    std::memmove(m_Text, text, length);
+    setText(m_Text, length);
+    return this;
+}
+
+LmStringBuffer* LmStringBuffer::append(const char* text, unsigned int length)
+{
+    const std::string_view whole = lmViewOf(text);
+    return append(length == 0 ? whole : whole.substr(0, length));
+}
+
+LmStringBuffer* LmStringBuffer::append(std::string_view text)
+{
+    const std::size_t joined = m_Length + text.size();
+    if (isShared())
+    {
+        LmStringBuffer* const pJoined =
+            sCreate(view(), static_cast<unsigned int>(std::min<std::size_t>(joined, UINT32_MAX)));
+        return pJoined->append(text);
+    }
+    const std::less_equal<const char*> notBehind;
+    const bool ownText =
+        m_Text != nullptr && notBehind(m_Text, text.data()) && notBehind(text.data(), m_Text + m_Length);
+    const std::ptrdiff_t offset = ownText ? text.data() - m_Text : 0;
+    growTo(joined);
+    std::memmove(m_Text + m_Length, ownText ? m_Text + offset : text.data(), text.size());
+    setText(m_Text, joined);
+    return this;
+}
+
+LmStringBuffer* LmStringBuffer::trim()
+{
+    const std::string_view trimmed = lmTrimmed(view());
+    if (trimmed.size() == m_Length)
+    {
+        return this;
+    }
+    if (isShared())
+    {
+        return sCreate(trimmed);
+    }
+    std::memmove(m_Text, trimmed.data(), trimmed.size());
+    setText(m_Text, trimmed.size());
+    return this;
+}
+
+int LmStringBuffer::indexOf(const char* needle, int start) const
+{
+    return lmIndexOf(view(), lmViewOf(needle), start);
+}
+
+LmStringBuffer* LmStringBuffer::substr(unsigned int start, unsigned int length) const
+{
+    return sCreate(lmSubstr(view(), start, length));
+}
+
+int LmStringBuffer::compareWith(const char* text) const
+{
+    return view().compare(lmViewOf(text));
+}

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "LmLibs/LmUtil/LmObject.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+/// Counted text with copy-on-write, held through LmString or a handle.
+///
+/// The text lies behind the object in one block of memory until it outgrows it. Lengths are in bytes. The text may
+/// hold NUL bytes when it came from a stream; whoever reads it as a C string then sees its first part.
+class LMUTIL_API LmStringBuffer final : public LmObject
+{
+public:
+    /// A new buffer without an owner, with a copy of `text`. A null text gives an empty one. `length` is how much to
+    /// take of the text, 0 for all of it; `capacity` is how much room to reserve in bytes.
+    /// @throws std::bad_alloc
+    static LmStringBuffer* sCreate(const char* text, unsigned int length, unsigned int capacity);
+
+    /// The same for bytes with a known end.
+    static LmStringBuffer* sCreate(std::string_view text, unsigned int capacity = 0);
+
+    /// The one empty text that all share; it is never counted.
+    static LmStringBuffer* sEmpty() noexcept { return sm_pEmpty; }
+
+    /// A text that is made once and never released, so that threads can share it without counting.
+    static LmStringBuffer* sCreateImmortal(std::string_view text);
+
+    LmStringBuffer(const LmStringBuffer&) = delete;
+    LmStringBuffer& operator=(const LmStringBuffer&) = delete;
+    ~LmStringBuffer() override;
+
+    /// The text with a NUL behind it; a null pointer only after `assign` was given one.
+    const char* getText() const { return m_Text; }
+    unsigned int getLength() const { return m_Length; }
+    std::string_view view() const { return {m_Text, m_Length}; }
+
+    /// The changing operations give the buffer that holds the result, for the handle they were called through: this
+    /// one when no other handle shares it, otherwise a new one. The text given may be part of this one.
+
+    /// Replaces the text; a null pointer leaves a buffer whose text pointer is null.
+    LmStringBuffer* assign(const char* text);
+
+    /// Appends the text; `length` is how much to take of it, 0 for all of it.
+    LmStringBuffer* append(const char* text, unsigned int length = 0);
+    LmStringBuffer* append(std::string_view text);
+
+    /// Removes white space at both ends.
+    LmStringBuffer* trim();
+
+    /// The first place of `needle` at or behind `start`, or -1; always -1 for an empty or null needle.
+    int indexOf(const char* needle, int start) const;
+
+    /// A new buffer with `length` bytes from `start`, cut at the end of the text; a length of 0 means up to the end.
+    LmStringBuffer* substr(unsigned int start, unsigned int length) const;
+
+    /// 0 when the texts are equal byte by byte, below 0 when this one sorts first. A null text counts as empty.
+    int compareWith(const char* text) const;
+    using LmObject::compareWith;
+
+    unsigned long Release(bool destroyAtZero = true) override
+    {
+        const unsigned long count = LmObject::Release(false);
+        if (count == 0 && destroyAtZero)
+        {
+            delete this;
+        }
+        return count;
+    }
+
+    /// The text's room lies behind the object, so a buffer is made by `sCreate` alone.
+    static void operator delete(void* block) noexcept;
+
+private:
+    friend struct LmEmptyText;
+
+    /// Stands in front of each text, within the object's block or in one of its own.
+    using Room = std::uint32_t;
+
+    explicit LmStringBuffer(Room room) noexcept;
+    LmStringBuffer(LmReferenceCount::Immortal immortal, char* text, Room length) noexcept;
+    explicit constexpr LmStringBuffer(char* emptyText) noexcept
+        : LmObject(LmReferenceCount::Immortal()), m_Length(0), m_Text(emptyText)
+    {
+    }
+
+    static void* operator new(std::size_t size, Room room);
+    static void operator delete(void* block, Room room) noexcept;
+    static void* operator new(std::size_t, void* place) noexcept { return place; }
+    static void operator delete(void*, void*) noexcept {}
+
+    static LmStringBuffer* sMake(std::size_t room);
+    static char* sInnerText(void* block) noexcept;
+    static Room& sRoom(char* text) noexcept;
+
+    bool isTextOutside() const noexcept;
+    bool isShared() const noexcept { return !isUnshared() && !isUnowned(); }
+    void setText(char* text, std::size_t length) noexcept;
+    void dropOutsideText() noexcept;
+    void growTo(std::size_t length);
+
+    static LmStringBuffer* const sm_pEmpty;
+
+    Room m_Length = 0;
+    char* m_Text;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/MemAccount.h"
+
+#include <cstddef>
+
+namespace Quorvex
+{
+
+/// Memory on an account, given back without its size.
+class HARNWICK_CORE_API NoSizeMemAllocator
+{
+public:
+    /// @throws std::bad_alloc
+    static void* allocate(std::size_t size, const char* account);
+    static void deallocate(void* block, const char* account) noexcept;
+
+    /// The same for a caller that has looked its account up before.
+    static void* allocate(std::size_t size, MemAccount& account) { return account.allocate(size); }
+    static void deallocate(void* block, MemAccount& account) noexcept { account.deallocate(block); }
+};
+
+} // namespace Quorvex

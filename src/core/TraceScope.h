@@ -1,0 +1,61 @@
+#pragma once
+
+#include "core/FileLogger.h"
+
+namespace Quorvex
+{
+
+/// Marks an operation in the log at trace level: "Entering " and its name at the start, "Leaving " and its name at
+/// every way out, exceptions included. It costs a level test when nobody listens, and changes nothing else.
+class HARNWICK_CORE_API TraceScope
+{
+public:
+    /// `name` is a string literal; `pLogger` may be null, which makes a silent scope.
+    TraceScope(const Logger* pLogger, const char* name) : m_pLogger(pLogger), m_Name(name), m_Active(isTraced(pLogger))
+    {
+        if (m_Active)
+        {
+            ctorLog();
+        }
+    }
+
+    TraceScope(FileLogger& fileLogger, const char* name) : TraceScope(unlessSilent(fileLogger.get()), name) {}
+
+    TraceScope(const TraceScope&) = delete;
+    TraceScope& operator=(const TraceScope&) = delete;
+
+    ~TraceScope()
+    {
+        if (m_Active)
+        {
+            dtorLog();
+        }
+    }
+
+protected:
+    void ctorLog() const;
+    void dtorLog() const;
+
+private:
+    static const Logger* unlessSilent(const Logger* pLogger)
+    {
+        return pLogger != nullptr && pLogger->isSilentAt(eTrace) ? nullptr : pLogger;
+    }
+
+    static bool isTraced(const Logger* pLogger)
+    {
+        if (pLogger == nullptr)
+        {
+            return false;
+        }
+        const LogLevel level = pLogger->getLogLevel();
+        const bool wanted = level == eNotSet ? pLogger->isEnabledFor(eTrace) : level <= eTrace;
+        return wanted && pLogger->isReady() != 0;
+    }
+
+    const Logger* m_pLogger;
+    const char* m_Name;
+    bool m_Active;
+};
+
+} // namespace Quorvex

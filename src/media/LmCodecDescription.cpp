@@ -1,0 +1,6 @@
+#include "media/LmCodecDescription.h"
+
+LmCodecDescription::LmCodecDescription(unsigned int codecNo, const char* codecName) : m_CodecNo(codecNo)
+{
+    m_CodecName.assign(codecName);
+}

@@ -1,0 +1,446 @@
+#include "sdp/crypto/LmSdpCryptoAttribute.h"
+
+#include "LmLibs/LmUtil/LmException.h"
+#include "LmLibs/LmUtil/LmStreamTokenizer.h"
+#include "core/LogStatement.h"
+#include "core/TraceScope.h"
+#include "sdp/frame/LmSdpParseError.h"
+#include "sdp/frame/LmSdpText.h"
+
+#include <strings.h>
+
+#include <memory>
+#include <string>
+
+using Quorvex::TraceScope;
+
+namespace
+{
+
+Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpCryptoAttribute");
+
+constexpr unsigned int s_Powers = 64;
+constexpr unsigned int s_WholeText = 0xFFFFFFFF;
+
+using Token = char[256];
+
+constexpr const char* s_ParameterNames[] = {
+    "KDR", "UNENCRYPTED_SRTP", "UNENCRYPTED_SRTCP", "UNAUTHENTICATED_SRTP", "FEC_ORDER", "FEC_KEY", "WSH"};
+
+/// Takes the next character if it is the one wanted.
+bool takeIf(LmInputStream& in, int wanted)
+{
+    in.mark(s_WholeText);
+    if (in.read() == wanted)
+    {
+        return true;
+    }
+    in.reset();
+    return false;
+}
+
+/// Takes the "2^" with which a lifetime in its power form begins.
+bool takePowerMark(LmInputStream& in)
+{
+    in.mark(s_WholeText);
+    if (in.read() == '2' && in.read() == '^')
+    {
+        return true;
+    }
+    in.reset();
+    return false;
+}
+
+/// A 32-bit number as "%d" writes it.
+std::string asSigned(unsigned int number)
+{
+    return std::to_string(static_cast<int>(number));
+}
+
+void appendKey(std::string& text, const LmCryptoKey& key)
+{
+    text.append("inline:").append(key.m_Key.view());
+    if (key.m_Lifetime != LmCryptoKey::sm_NoLifetime)
+    {
+        const unsigned int power = key.getLifetimeAsPowerOfTwo();
+        text += power != 0 ? "|2^" + std::to_string(power) : "|" + std::to_string(key.m_Lifetime);
+    }
+    if (key.m_MkiValue != LmCryptoKey::sm_NotSet)
+    {
+        text += "|" + asSigned(key.m_MkiValue);
+        if (key.m_MkiLength != LmCryptoKey::sm_NotSet)
+        {
+            text += ":" + asSigned(key.m_MkiLength);
+        }
+    }
+}
+
+void appendParameter(std::string& text, const LmSecurityDescription& parameter)
+{
+    text += "\r\n";
+    if (!parameter.m_Name.isBlank())
+    {
+        text.append(parameter.m_Name.view());
+        if (!parameter.m_Value.isBlank())
+        {
+            text.append("=").append(parameter.m_Value.view());
+        }
+    }
+}
+
+} // namespace
+
+LmCryptoKey::LmCryptoKey(const char* key, std::size_t lifetime, unsigned int mkiValue, unsigned int mkiLength)
+    : m_Key(key), m_Lifetime(lifetime), m_MkiValue(mkiValue), m_MkiLength(mkiLength)
+{
+}
+
+void LmCryptoKey::setLifetimeAsPowerOfTwo(unsigned int power)
+{
+    if (power < s_Powers)
+    {
+        m_Lifetime = std::uint64_t(1) << power;
+    }
+}
+
+unsigned int LmCryptoKey::getLifetimeAsPowerOfTwo() const
+{
+    const bool isPower = m_Lifetime != 0 && (m_Lifetime & (m_Lifetime - 1)) == 0;
+    return isPower ? static_cast<unsigned int>(__builtin_ctzll(m_Lifetime)) : 0;
+}
+
+LmSecurityDescription::LmSecurityDescription() = default;
+
+LmSecurityDescription::LmSecurityDescription(const char* name, const char* value)
+    : m_Name(name), m_Type(KDR), m_Value(value)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::LmSecurityDescription::LmSecurityDescription");
+    while (m_Type < UNKNOWN && ::strcasecmp(m_Name.c_str(), s_ParameterNames[m_Type]) != 0)
+    {
+        m_Type = static_cast<ESecurityDescription>(m_Type + 1);
+    }
+}
+
+LmSecurityDescription::LmSecurityDescription(ESecurityDescription type, const char* value)
+    : m_Type(type), m_Value(value)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::LmSecurityDescription::LmSecurityDescription");
+    if (static_cast<unsigned int>(type) < UNKNOWN)
+    {
+        m_Name = LmString(s_ParameterNames[type]);
+    }
+}
+
+LmSdpCryptoAttribute::LmSdpCryptoAttribute() = default;
+
+LmSdpCryptoAttribute::LmSdpCryptoAttribute(const char* text) : LmSdpAttribute(text)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::LmSdpCryptoAttribute");
+    lmParseText(*this, text);
+}
+
+LmSdpCryptoAttribute::~LmSdpCryptoAttribute()
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::~LmSdpCryptoAttribute");
+}
+
+LmObject* LmSdpCryptoAttribute::clone() const
+{
+    auto pClone = std::make_unique<LmSdpCryptoAttribute>();
+    pClone->m_Tag = m_Tag;
+    pClone->m_CryptoSuite = m_CryptoSuite;
+    pClone->m_ExtendedCryptoSuite = m_ExtendedCryptoSuite;
+    pClone->m_Keys = m_Keys;
+    pClone->m_SecurityDescriptions = m_SecurityDescriptions;
+    pClone->setBuiltValue(builtValue());
+    return pClone.release();
+}
+
+void LmSdpCryptoAttribute::parse(LmInputStream& in)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parse");
+    setTag(LmStreamTokenizer::sGetUnsigned(in));
+    parseSuite(in);
+    parseKeys(in);
+    parseSessionParameters(in);
+}
+
+void LmSdpCryptoAttribute::parseSuite(LmInputStream& in)
+{
+    Token token;
+    if (LmStreamTokenizer::sGetToken(in, " \r\n", token, sizeof token))
+    {
+        setCryptoSuite(token);
+    }
+    if (m_CryptoSuite == CryptoType::EXTENDED && m_ExtendedCryptoSuite.isBlank())
+    {
+        LmSdpParseError::sThrow("LmSdpCryptoAttribute::parse-Failed to parse crypto suite.");
+    }
+}
+
+void LmSdpCryptoAttribute::parseKeys(LmInputStream& in)
+{
+    do
+    {
+        Token method;
+        if (!LmStreamTokenizer::sGetToken(in, ":", method, sizeof method))
+        {
+            LmSdpParseError::sThrow("No : in key-params LmSdpCryptoAttribute::parse()");
+        }
+        if (::strcasecmp(method, "inline") == 0)
+        {
+            in.read();
+            parseKey(in);
+        }
+    } while (takeIf(in, ';'));
+    if (m_Keys.empty())
+    {
+        LmSdpParseError::sThrow("LmSdpCryptoAttribute::parse-Failed to parse key/s.");
+    }
+}
+
+void LmSdpCryptoAttribute::parseKey(LmInputStream& in)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parseKey");
+    LmCryptoKey key;
+    Token keySalt;
+    if (LmStreamTokenizer::sGetToken(in, ";| \r\n", keySalt, sizeof keySalt))
+    {
+        key.m_Key = LmString(keySalt);
+    }
+    if (key.m_Key.isBlank())
+    {
+        LmSdpParseError::sThrow("LmSdpCryptoAttribute::parseKey-Failed to parse key-salt.");
+    }
+
+    bool wantMki = true;
+    if (takeIf(in, '|'))
+    {
+        if (takePowerMark(in))
+        {
+            key.setLifetimeAsPowerOfTwo(LmStreamTokenizer::sGetUnsigned(in));
+        }
+        else
+        {
+            const unsigned int number = LmStreamTokenizer::sGetUnsigned(in);
+            if (takeIf(in, ':'))
+            {
+                key.m_MkiValue = number;
+                key.m_MkiLength = LmStreamTokenizer::sGetUnsigned(in);
+                wantMki = false;
+            }
+            else
+            {
+                key.m_Lifetime = number;
+            }
+        }
+    }
+    if (key.m_Lifetime == LmCryptoKey::sm_NoLifetime)
+    {
+        key.setLifetimeAsPowerOfTwo(CryptoType::getKeyLifetimeIndex(m_CryptoSuite));
+    }
+    if (wantMki)
+    {
+        parseKeyMki(key, in);
+    }
+    addKey(key);
+}
+
+void LmSdpCryptoAttribute::parseKeyMki(LmCryptoKey& key, LmInputStream& in)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parseKeyMki");
+    if (in.available() == 0)
+    {
+        return;
+    }
+    in.mark(s_WholeText);
+    const int next = in.read();
+    if (next == ' ' || next == '\r' || next == '\n' || next == ';')
+    {
+        in.reset();
+        return;
+    }
+    if (next != '|')
+    {
+        LmSdpParseError::sThrow("LmSdpCryptoAttribute::parseKeyMki-Invalid character while parsing MKI.");
+    }
+    key.m_MkiValue = LmStreamTokenizer::sGetUnsigned(in);
+    if (key.m_MkiValue == LmCryptoKey::sm_NotSet)
+    {
+        LmSdpParseError::sThrow("Parse error in srtp-key-info mki-value");
+    }
+    if (in.read() != ':')
+    {
+        LmSdpParseError::sThrow("No : in srtp-key-info mki");
+    }
+    key.m_MkiLength = LmStreamTokenizer::sGetUnsigned(in);
+    if (key.m_MkiLength == LmCryptoKey::sm_NotSet)
+    {
+        LmSdpParseError::sThrow("Parse error in srtp-key-info mki-length");
+    }
+}
+
+void LmSdpCryptoAttribute::parseSessionParameters(LmInputStream& in)
+{
+    Token token;
+    while (in.available() != 0)
+    {
+        if (!LmStreamTokenizer::sGetToken(in, "= \r\n", token, sizeof token))
+        {
+            continue;
+        }
+        if (token[0] == '\0')
+        {
+            // A stray "=": taken, so that the loop moves on.
+            in.read();
+            continue;
+        }
+        LmSecurityDescription parameter(token, "");
+        if (in.read() == '=' && LmStreamTokenizer::sGetToken(in, " \r\n", token, sizeof token))
+        {
+            parameter.m_Value = LmString(token);
+        }
+        addSecurityDescription(parameter);
+    }
+}
+
+void LmSdpCryptoAttribute::serialize(LmOutputStream& out) const
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::serialize");
+    if (!isComplete())
+    {
+        LmException::sThrow("LmSdpCryptoAttribute::serialize()Incomplete crypto attribute.");
+    }
+    out << getValue();
+}
+
+void LmSdpCryptoAttribute::setTag(unsigned int tag)
+{
+    m_Tag = tag;
+    setChangedFlag(true);
+}
+
+const char* LmSdpCryptoAttribute::getCryptoSuiteString() const
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::getCryptoSuiteString");
+    return m_CryptoSuite >= CryptoType::EXTENDED ? m_ExtendedCryptoSuite.c_str()
+                                                 : CryptoType::getCryptoTypeName(m_CryptoSuite);
+}
+
+void LmSdpCryptoAttribute::setCryptoSuite(CryptoType::eCryptoType suite)
+{
+    m_CryptoSuite = suite;
+    setChangedFlag(true);
+}
+
+void LmSdpCryptoAttribute::setCryptoSuite(const char* name)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::setCryptoSuite");
+    const CryptoType::eCryptoType suite = CryptoType::parseCryptoTypeStr(name);
+    if (suite == CryptoType::EXTENDED)
+    {
+        const LmString text(name);
+        QUORVEX_LOG(s_Logger, Quorvex::eDebug, "LmSdpCryptoAttribute", "Parsed extended crypto suite " << text.c_str());
+        m_ExtendedCryptoSuite = text;
+    }
+    setCryptoSuite(suite);
+}
+
+bool LmSdpCryptoAttribute::getEncodedMasterKeySalt(LmString& out, std::size_t index) const
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::getEncodedMasterKeySalt");
+    const LmCryptoKey* const pKey = findKey(index);
+    if (pKey != nullptr)
+    {
+        out = pKey->m_Key;
+    }
+    return pKey != nullptr;
+}
+
+bool LmSdpCryptoAttribute::getKeyLifetime(std::size_t& out, std::size_t index) const
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::getKeyLifetime");
+    const LmCryptoKey* const pKey = findKey(index);
+    if (pKey != nullptr)
+    {
+        out = pKey->m_Lifetime;
+    }
+    return pKey != nullptr;
+}
+
+bool LmSdpCryptoAttribute::getKeyLifetimeAsPowerofTwo(unsigned int& out, std::size_t index) const
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::getKeyLifetimeAsPowerofTwo");
+    const LmCryptoKey* const pKey = findKey(index);
+    if (pKey != nullptr)
+    {
+        out = pKey->getLifetimeAsPowerOfTwo();
+    }
+    return pKey != nullptr;
+}
+
+const LmCryptoKey* LmSdpCryptoAttribute::findKey(std::size_t index) const
+{
+    if (index >= m_Keys.size())
+    {
+        QUORVEX_LOG(s_Logger, Quorvex::eError, "LmSdpCryptoAttribute", "Can not find key " << index);
+        return nullptr;
+    }
+    return &m_Keys[index];
+}
+
+void LmSdpCryptoAttribute::addKey(const LmCryptoKey& key)
+{
+    m_Keys.push_back(key);
+    setChangedFlag(true);
+}
+
+void LmSdpCryptoAttribute::addKey(const LmString& key, unsigned int lifetimePower)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::addKey");
+    LmCryptoKey added;
+    added.m_Key = key;
+    added.setLifetimeAsPowerOfTwo(lifetimePower == 0 ? CryptoType::getKeyLifetimeIndex(m_CryptoSuite) : lifetimePower);
+    addKey(added);
+}
+
+void LmSdpCryptoAttribute::addSecurityDescription(const LmSecurityDescription& description)
+{
+    m_SecurityDescriptions.push_back(description);
+    setChangedFlag(true);
+}
+
+bool LmSdpCryptoAttribute::isComplete() const
+{
+    const bool hasSuite = m_CryptoSuite != CryptoType::EXTENDED || !m_ExtendedCryptoSuite.isBlank();
+    return m_Tag != LmCryptoKey::sm_NotSet && hasSuite && !m_Keys.empty();
+}
+
+void LmSdpCryptoAttribute::buildValue() const
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::buildValue");
+    if (!isComplete())
+    {
+        return;
+    }
+    std::string text = asSigned(m_Tag) + " " + getCryptoSuiteString();
+    text += m_Keys.size() == 1 ? " " : "\r\n";
+    for (const LmCryptoKey& key : m_Keys)
+    {
+        if (key.m_Key.isBlank())
+        {
+            continue;
+        }
+        appendKey(text, key);
+        if (&key != &m_Keys.back())
+        {
+            text += ";\r\n";
+        }
+    }
+    for (const LmSecurityDescription& parameter : m_SecurityDescriptions)
+    {
+        appendParameter(text, parameter);
+    }
+    setBuiltValue(LmString(std::string_view(text)));
+    clearChangedFlag();
+}

@@ -1,0 +1,74 @@
+#include "sdp/fields/LmSdpKeyField.h"
+
+#include "LmLibs/LmUtil/LmCharacters.h"
+#include "LmLibs/LmUtil/LmLine.h"
+#include "sdp/frame/LmSdpLine.h"
+
+namespace
+{
+
+constexpr std::string_view s_UrlStart = "http://";
+constexpr const char* s_Invalid = "LmSdpKeyField::parse() Invalid Key Field";
+
+} // namespace
+
+LmSdpKeyField::LmSdpKeyField() : LmSdpField("k") {}
+
+LmSdpKeyField::LmSdpKeyField(const char* text) : LmSdpKeyField()
+{
+    lmParseText(*this, text);
+}
+
+LmSdpKeyField::~LmSdpKeyField() = default;
+
+void LmSdpKeyField::setMethod(const char* text)
+{
+    change(m_Method, text);
+}
+
+void LmSdpKeyField::setKey(const char* text)
+{
+    change(m_Key, text);
+}
+
+void LmSdpKeyField::parse(LmInputStream& in)
+{
+    lmRefuseEmptyLine(in, "LmSdpKeyField::parse() Incomplete Key Field");
+    const LmLine wholeLine(in);
+    const std::string_view line = wholeLine.view();
+    const std::size_t colon = line.find(':');
+    if (colon == std::string_view::npos)
+    {
+        if (line != "prompt")
+        {
+            LmException::sThrow(s_Invalid);
+        }
+        m_Method = LmString(line);
+        return;
+    }
+    // With nothing in front of the colon, the method is the whole line.
+    m_Method = LmString(lmSubstr(line, 0, colon));
+    if (m_Method.compareWith("clear") == 0 || m_Method.compareWith("base64") == 0)
+    {
+        m_Key = LmString(line.substr(colon + 1));
+    }
+    else if (line.substr(0, s_UrlStart.size()) == s_UrlStart)
+    {
+        m_Method = LmString(line);
+    }
+    else
+    {
+        LmException::sThrow(s_Invalid);
+    }
+}
+
+void LmSdpKeyField::serialize(LmOutputStream& out) const
+{
+    lmRefuseBlank<LmException>(m_Method, "LmSdpKeyField::serialize() Incomplete Key Field");
+    lmWriteLine(out, *this, m_Method, m_Key.isBlank() ? "" : ":", m_Key);
+}
+
+LmSdpField* LmSdpKeyField::sConstruct()
+{
+    return new LmSdpKeyField;
+}

@@ -1,0 +1,210 @@
+#include "sdp/frame/LmSdpDescription.h"
+
+#include "LmLibs/LmUtil/LmException.h"
+#include "LmLibs/LmUtil/LmStreamTokenizer.h"
+#include "core/Assertion.h"
+#include "core/TraceScope.h"
+#include "sdp/frame/LmSdpChain.h"
+#include "sdp/frame/LmSdpLetter.h"
+#include "sdp/frame/LmSdpParseError.h"
+#include "sdp/frame/LmSdpRegistry.h"
+
+#include <utility>
+
+namespace
+{
+
+Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpDescription");
+
+/// A one-letter token of what `sDiscardWhite` has shown.
+struct Letter
+{
+    explicit Letter(int next) : text{static_cast<char>(next & 0xFF), '\0'} {}
+
+    /// Also true for a byte 0xFF of the text, which shows in the same way.
+    bool isEndOfInput() const { return text[0] == static_cast<char>(0xFF); }
+
+    char text[2];
+};
+
+} // namespace
+
+const unsigned int LmSdpDescription::sm_TokenOffset = 'a';
+
+const std::array<unsigned int, 26> LmSdpDescription::sm_FieldOrder = {
+    // a   b  c   d  e   f   g   h  i   j   k   l  m
+    14, 10, 9, 15, 7, 15, 15, 15, 5, 15, 13, 15, 2,
+    // n  o  p   q   r  s  t  u  v   w   x   y   z
+    15, 3, 8, 15, 11, 4, 1, 6, 0, 15, 15, 15, 12};
+
+LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens)
+    : m_Token(lmSdpToken(token)), m_FieldTokens(fieldTokens)
+{
+}
+
+LmSdpDescription::~LmSdpDescription()
+{
+    lmReleaseChain(m_Next, [](LmSdpDescription& next) -> LmHandle<LmSdpDescription>& { return next.m_Next; });
+}
+
+bool LmSdpDescription::isFieldInDescription(const char* token)
+{
+    return m_FieldTokens.indexOf(token, 0) != -1;
+}
+
+LmHandle<LmSdpField> LmSdpDescription::getField(const char* token) const
+{
+    const unsigned int slot = sGetFieldPosition(token);
+    return slot < sm_SlotCount ? m_Fields[slot] : nullptr;
+}
+
+void LmSdpDescription::addField(const LmHandle<LmSdpField>& hField)
+{
+    LmSdpField* const pField = hField;
+    if (pField == nullptr)
+    {
+        return;
+    }
+    const unsigned int slot = sGetFieldPosition(pField->getToken());
+    if (slot >= sm_SlotCount || !isFieldInDescription(pField->getToken()))
+    {
+        LmException::sThrow("field doesn't belong in this description type LmSdpDescription::addField()");
+    }
+    LmSdpField* const pAddedLast = pField->last();
+    if (m_Fields[slot].isNull())
+    {
+        m_Fields[slot] = hField;
+    }
+    else
+    {
+        LmSdpField* const pTail = m_Tails[slot]->last();
+        if (pAddedLast == pTail)
+        {
+            LmException::sThrow("field is already in this description LmSdpDescription::addField()");
+        }
+        pTail->addNext(hField);
+    }
+    m_Tails[slot] = pAddedLast;
+}
+
+bool LmSdpDescription::checkForChangeFlag()
+{
+    return isAnyFieldChanged(0, sm_SlotCount);
+}
+
+LmHandle<LmSdpDescription> LmSdpDescription::sConstructFrom(LmInputStream& in)
+{
+    const Quorvex::TraceScope trace(s_Logger, "LmSdpDescription::sConstructFrom");
+    const Letter letter(LmStreamTokenizer::sDiscardWhite(in));
+    const Constructor constructor = sm_ConstructorMap == nullptr ? nullptr : sm_ConstructorMap->find(letter.text);
+    LmHandle<LmSdpDescription> hDescription = constructor == nullptr ? nullptr : constructor();
+    if (hDescription.isNull())
+    {
+        LmSdpParseError::sThrow("Unknown token for Description");
+    }
+    hDescription->parse(in);
+    return hDescription;
+}
+
+void LmSdpDescription::sAddConstructor(const char* token, Constructor constructor)
+{
+    LmSdpRegistry<LmSdpDescription>::sAdd(sm_ConstructorMap, token, constructor);
+}
+
+void LmSdpDescription::parse(LmInputStream& in)
+{
+    const Quorvex::TraceScope trace(s_Logger, "LmSdpDescription::parse");
+    do
+    {
+        addField(LmSdpField::sConstructFrom(in));
+    } while (isOwnLineNext(in));
+}
+
+void LmSdpDescription::serialize(LmOutputStream& out) const
+{
+    const Quorvex::TraceScope trace(s_Logger, "LmSdpDescription::serialize");
+    serializeSlots(out, 0, sm_SlotCount);
+}
+
+void LmSdpDescription::serializeSlots(LmOutputStream& out, unsigned int first, unsigned int end) const
+{
+    for (unsigned int slot = first; slot < end; ++slot)
+    {
+        for (const LmSdpField* pField = m_Fields[slot]; pField != nullptr; pField = pField->m_Next)
+        {
+            pField->serialize(out);
+        }
+    }
+}
+
+bool LmSdpDescription::isAnyFieldChanged(unsigned int first, unsigned int end) const
+{
+    for (unsigned int slot = first; slot < end; ++slot)
+    {
+        for (LmSdpField* pField = m_Fields[slot]; pField != nullptr; pField = pField->m_Next)
+        {
+            if (pField->getChangedFlag())
+            {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+void LmSdpDescription::addNext(LmHandle<LmSdpDescription> hNext)
+{
+    const Quorvex::TraceScope trace(s_Logger, "LmSdpDescription::addNext");
+    LmSdpDescription* const pTail = last();
+    LmSdpDescription* const pAddedLast = hNext->last();
+    if (pAddedLast != pTail)
+    {
+        pTail->m_Next = std::move(hNext);
+        m_Tail = pAddedLast;
+    }
+    else if (isBehind(hNext))
+    {
+        Quorvex::Assertion(false, "m_Next != hNext", "LmSdpDescription", __LINE__);
+    }
+    else
+    {
+        LmException::sThrow("description is already in this chain LmSdpDescription::addNext()");
+    }
+}
+
+LmSdpDescription* LmSdpDescription::last()
+{
+    while (LmSdpDescription* const pNext = m_Tail->m_Next)
+    {
+        m_Tail = pNext;
+    }
+    return m_Tail;
+}
+
+bool LmSdpDescription::isBehind(const LmSdpDescription* pDescription) const
+{
+    const LmSdpDescription* pNext = m_Next;
+    while (pNext != nullptr && pNext != pDescription)
+    {
+        pNext = pNext->m_Next;
+    }
+    return pNext != nullptr;
+}
+
+/// True when the next line, shown behind any white space, has a letter that belongs here and begins no description.
+bool LmSdpDescription::isOwnLineNext(LmInputStream& in)
+{
+    const Letter letter(LmStreamTokenizer::sDiscardWhite(in));
+    return !letter.isEndOfInput() && isFieldInDescription(letter.text) &&
+           (sm_ConstructorMap == nullptr || sm_ConstructorMap->find(letter.text) == nullptr);
+}
+
+/// The slot of the letter with which the token begins; one past the last slot where it has none.
+unsigned int LmSdpDescription::sGetFieldPosition(const char* token)
+{
+    if (token == nullptr || token[0] < 'a' || token[0] > 'z')
+    {
+        return sm_SlotCount;
+    }
+    return sm_FieldOrder[static_cast<unsigned int>(token[0]) - sm_TokenOffset];
+}

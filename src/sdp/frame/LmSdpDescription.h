@@ -1,0 +1,110 @@
+#pragma once
+
+#include "LmLibs/LmUtil/LmHandle.h"
+#include "LmLibs/LmUtil/LmInputStream.h"
+#include "LmLibs/LmUtil/LmOutputStream.h"
+#include "LmLibs/LmUtil/LmSerializable.h"
+#include "LmLibs/LmUtil/LmString.h"
+#include "sdp/LmSdpExport.h"
+#include "sdp/frame/LmSdpField.h"
+
+#include <array>
+
+template <typename Product>
+class LmSdpRegistry;
+
+/// A group of lines that belong together: the session level, a `t=` line with its `r=` lines, or an `m=` line with
+/// what follows it (RFC 4566, section 5).
+///
+/// It has one slot for each letter, in the order in which lines are written: v t m o s i u e p c b r z k a. A further
+/// line of a letter is chained behind the first. Descriptions of one kind are chained as well. Nothing can be taken
+/// out again. Not safe for use by two threads at once.
+class LMSDP_API LmSdpDescription : public LmObject, public LmSerializable
+{
+public:
+    /// Makes a description of its own class.
+    using Constructor = LmSdpDescription* (*)();
+
+    /// `token` is the letter of the first line, `fieldTokens` the letters of the lines that belong here.
+    LmSdpDescription(const char* token, const char* fieldTokens);
+    ~LmSdpDescription() override;
+
+    LmSdpDescription(const LmSdpDescription&) = delete;
+    LmSdpDescription& operator=(const LmSdpDescription&) = delete;
+
+    /// The letter of the first line; valid as long as the description.
+    const char* getToken() const { return m_Token.c_str(); }
+
+    /// The next description of this kind; an empty handle behind the last one.
+    LmHandle<LmSdpDescription> getNext() { return m_Next; }
+
+    /// True when the token is part of the letters: `os` is part of "vosiuepcbzka". An empty token is part of none.
+    bool isFieldInDescription(const char* token);
+
+    /// The first line of the letter with which `token` begins; the others follow by `getNext`. An empty handle when
+    /// there is none, and for a null or empty token.
+    LmHandle<LmSdpField> getField(const char* token) const;
+
+    /// Files a line in the slot of its letter, behind those that are there; a line that leads to others brings them.
+    /// An empty handle does nothing.
+    /// @throws LmException "field doesn't belong in this description type LmSdpDescription::addField()" for a token
+    ///         that is not part of the letters, or has no slot
+    /// @throws LmException "field is already in this description LmSdpDescription::addField()" when the chain would
+    ///         run into itself
+    /// After a failure the description is as it was.
+    void addField(const LmHandle<LmSdpField>& hField);
+
+    /// True when the changed flag of any line is set. The next description is not asked.
+    bool checkForChangeFlag();
+
+    /// Makes the description that begins with the next letter, behind any white space, and lets it read its lines.
+    /// @throws LmSdpParseError "Unknown token for Description" for a letter that begins none, which stays unread, and
+    ///         at the end of input
+    /// @throws whatever its lines raise
+    static LmHandle<LmSdpDescription> sConstructFrom(LmInputStream& in);
+
+    /// Registers the class for a letter. A letter that is taken stays with its class. Not beside a thread that reads.
+    static void sAddConstructor(const char* token, Constructor constructor);
+
+    /// Reads a first line of whatever letter, and then each line whose letter belongs here and begins no description.
+    /// What comes behind stays unread, and is no error.
+    /// @throws what `addField` and LmSdpField::sConstructFrom raise; the lines read so far stay
+    virtual void parse(LmInputStream& in) = 0;
+
+    /// Writes the lines in the order of the slots. The next description is not written.
+    /// @throws whatever an incomplete line raises; the lines in front of it are then in `out`
+    void serialize(LmOutputStream& out) const override;
+
+protected:
+    static constexpr unsigned int sm_SlotCount = 15;
+
+    /// Writes the lines of the slots from `first` up to, but not including, `end`.
+    void serializeSlots(LmOutputStream& out, unsigned int first, unsigned int end) const;
+    bool isAnyFieldChanged(unsigned int first, unsigned int end) const;
+
+private:
+    friend class LmSdpSessionDescription;
+
+    /// Appends at the tail of the chain that begins here. A description that follows here already raises the
+    /// assertion "m_Next != hNext"; any other that would close the chain to a ring raises LmException "description is
+    /// already in this chain LmSdpDescription::addNext()". Neither is linked.
+    void addNext(LmHandle<LmSdpDescription> hNext);
+    LmSdpDescription* last();
+    bool isBehind(const LmSdpDescription* pDescription) const;
+
+    bool isOwnLineNext(LmInputStream& in);
+    static unsigned int sGetFieldPosition(const char* token);
+
+    static const unsigned int sm_TokenOffset;
+    static const std::array<unsigned int, 26> sm_FieldOrder;
+    static LmSdpRegistry<LmSdpDescription>* sm_ConstructorMap;
+
+    std::array<LmHandle<LmSdpField>, sm_SlotCount> m_Fields;
+    LmString m_Token;
+    LmString m_FieldTokens;
+    LmHandle<LmSdpDescription> m_Next;
+
+    /// Where the search for a chain's tail begins: a link that was the last one when it was looked for.
+    std::array<LmSdpField*, sm_SlotCount> m_Tails{};
+    LmSdpDescription* m_Tail = this;
+};

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "LmLibs/LmUtil/LmHandle.h"
+#include "LmLibs/LmUtil/LmInputStream.h"
+#include "LmLibs/LmUtil/LmOutputStream.h"
+#include "LmLibs/LmUtil/LmSerializable.h"
+#include "LmLibs/LmUtil/LmString.h"
+#include "sdp/LmSdpExport.h"
+
+template <typename Product>
+class LmSdpRegistry;
+
+/// One line of an SDP body, `<letter>=<value>` (RFC 4566, section 5): the base of all line classes.
+///
+/// Lines of one letter that stand in one description are chained; each owns the next. A field, with its chain, is not
+/// safe for use by two threads at once.
+class LMSDP_API LmSdpField : public LmObject, public LmSerializable
+{
+public:
+    /// Makes a line of its own class.
+    using Constructor = LmSdpField* (*)();
+
+    /// `token` is the line's letter. A null pointer gives an empty token.
+    explicit LmSdpField(const char* token);
+    ~LmSdpField() override;
+
+    LmSdpField(const LmSdpField&) = delete;
+    LmSdpField& operator=(const LmSdpField&) = delete;
+
+    /// The letter; valid as long as the field.
+    const char* getToken() const { return m_Token.c_str(); }
+
+    /// The next line of the same letter in the same description; an empty handle behind the last one.
+    LmHandle<LmSdpField> getNext() { return m_Next; }
+
+    /// True once a value was changed through a setter, and in some classes after `parse`. Nothing in the library
+    /// clears it, and writing does not depend on it.
+    bool getChangedFlag() { return m_ChangedFlag; }
+
+    /// Reads the value of the line; `in` stands behind the "=". The line end may be consumed or left.
+    virtual void parse(LmInputStream& in) = 0;
+
+    /// Writes this one line, with "\r\n" at its end.
+    void serialize(LmOutputStream& out) const override = 0;
+
+    /// Reads one line into a new object of the class that is registered for its letter; an LmSdpUnusedField where
+    /// none is.
+    /// @throws LmException "Invalid format generic SDP field in LmSdpField::sConstructFrom()" at the end of input, and
+    ///         when four or more characters stand in front of the "="
+    /// @throws whatever the class's `parse` raises
+    static LmHandle<LmSdpField> sConstructFrom(LmInputStream& in);
+
+    /// Registers the class for a letter. A letter that is taken stays with its class. Not beside a thread that reads.
+    static void sAddConstructor(const char* token, Constructor constructor);
+
+protected:
+    /// What the setter of a text does: takes it as it stands, a null pointer as the empty text, and sets the changed
+    /// flag.
+    void change(LmString& member, const char* text);
+
+    void setChangedFlag() { m_ChangedFlag = true; }
+    void clearChangedFlag() { m_ChangedFlag = false; }
+
+private:
+    friend class LmSdpDescription;
+
+    /// Appends at the tail of the chain that begins here.
+    void addNext(LmHandle<LmSdpField> hNext);
+    LmSdpField* last();
+
+    static LmSdpRegistry<LmSdpField>* sm_pConstructorMap;
+
+    LmString m_Token;
+    bool m_ChangedFlag = false;
+    LmHandle<LmSdpField> m_Next;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "LmLibs/LmUtil/LmException.h"
+#include "LmLibs/LmUtil/LmOutputStream.h"
+#include "LmLibs/LmUtil/LmStreamTokenizer.h"
+#include "LmLibs/LmUtil/LmString.h"
+#include "sdp/frame/LmSdpField.h"
+#include "sdp/frame/LmSdpParseError.h"
+#include "sdp/frame/LmSdpText.h"
+
+/// What the line classes share.
+
+/// Raises an `Error` with that message when the value is blank.
+template <typename Error>
+void lmRefuseBlank(const LmString& value, const char* message)
+{
+    if (value.isBlank())
+    {
+        Error::sThrow(message);
+    }
+}
+
+/// Raises an LmException with that message when nothing is left of the line.
+inline void lmRefuseEmptyLine(LmInputStream& in, const char* message)
+{
+    if (LmStreamTokenizer::sIsEmptyLine(in))
+    {
+        LmException::sThrow(message);
+    }
+}
+
+/// Writes one whole line: the letter, "=", the parts of the value and the line end.
+template <typename... Parts>
+void lmWriteLine(LmOutputStream& out, const LmSdpField& field, const Parts&... parts)
+{
+    out << field.getToken() << "=";
+    (out << ... << parts) << "\r\n";
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "LmLibs/LmUtil/LmException.h"
+#include "sdp/LmSdpExport.h"
+
+/// Text or an argument that is no valid SDP. The other failures of the library are plain LmExceptions.
+class LMSDP_API LmSdpParseError : public LmException
+{
+public:
+    LmSdpParseError();
+    explicit LmSdpParseError(const char* message);
+    ~LmSdpParseError() override;
+
+    /// Throws an LmSdpParseError with that message.
+    [[noreturn]] static void sThrow(const char* message);
+};

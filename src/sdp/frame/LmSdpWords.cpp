@@ -1,0 +1,52 @@
+#include "sdp/frame/LmSdpWords.h"
+
+namespace
+{
+
+constexpr unsigned int s_ListCapacity = 256;
+
+} // namespace
+
+void lmAppendWords(std::vector<LmString>& words, std::string_view text)
+{
+    std::size_t start = 0;
+    for (std::size_t blank = text.find(' '); blank != std::string_view::npos; blank = text.find(' ', start))
+    {
+        if (blank > start)
+        {
+            words.emplace_back(text.substr(start, blank - start));
+        }
+        start = blank + 1;
+    }
+    words.emplace_back(text.substr(start));
+}
+
+std::vector<LmString> lmWords(std::string_view text)
+{
+    std::vector<LmString> words;
+    lmAppendWords(words, text);
+    return words;
+}
+
+LmString lmJoinWords(const std::vector<LmString>& words)
+{
+    LmString joined(LmStringBuffer::sCreate(std::string_view(), s_ListCapacity));
+    for (const LmString& word : words)
+    {
+        if (&word != &words.front())
+        {
+            joined.append(" ");
+        }
+        joined.append(word);
+    }
+    return joined;
+}
+
+LmOutputStream& operator<<(LmOutputStream& out, const LmSdpTrailingWords& trailing)
+{
+    for (const LmString& word : trailing.words)
+    {
+        out << " " << word;
+    }
+    return out;
+}

@@ -1,0 +1,30 @@
+#include "sdp/media/LmSdpAttribute.h"
+
+LmSdpAttribute::LmSdpAttribute() = default;
+
+LmSdpAttribute::LmSdpAttribute(const char* value) : m_Value(value) {}
+
+LmSdpAttribute::LmSdpAttribute(const LmString& value) : m_Value(value) {}
+
+LmSdpAttribute::~LmSdpAttribute() = default;
+
+void LmSdpAttribute::parse(LmInputStream& in)
+{
+    in >> m_Value;
+}
+
+void LmSdpAttribute::serialize(LmOutputStream& out) const
+{
+    out << m_Value;
+}
+
+LmString LmSdpAttribute::getValue() const
+{
+    if (m_ChangedFlag)
+    {
+        buildValue();
+    }
+    return m_Value;
+}
+
+void LmSdpAttribute::buildValue() const {}

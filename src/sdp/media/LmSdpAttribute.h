@@ -1,0 +1,55 @@
+#pragma once
+
+#include "LmLibs/LmUtil/LmInputStream.h"
+#include "LmLibs/LmUtil/LmOutputStream.h"
+#include "LmLibs/LmUtil/LmSerializable.h"
+#include "LmLibs/LmUtil/LmString.h"
+#include "core/MemAccountOperators.h"
+#include "sdp/LmSdpExport.h"
+
+/// The value of an `a=` line (RFC 4566, section 5.13): text that is not looked into. Classes that know a value's
+/// structure derive from this one and build the text from their members when it is asked for.
+///
+/// Not safe for use by two threads at once.
+class LMSDP_API LmSdpAttribute : public LmObject, public LmSerializable
+{
+public:
+    /// An empty value.
+    LmSdpAttribute();
+
+    /// A copy of the text; a null pointer gives an empty value.
+    explicit LmSdpAttribute(const char* value);
+
+    /// Shares the text.
+    explicit LmSdpAttribute(const LmString& value);
+    ~LmSdpAttribute() override;
+
+    LmSdpAttribute(const LmSdpAttribute&) = delete;
+    LmSdpAttribute& operator=(const LmSdpAttribute&) = delete;
+
+    /// Reads one word.
+    virtual void parse(LmInputStream& in);
+
+    /// Writes the value and nothing else: no name, no line end.
+    void serialize(LmOutputStream& out) const override;
+
+    /// The value as text, built anew when a member has changed.
+    LmString getValue() const;
+
+    QUORVEX_MEM_ACCOUNT(LmSdpAttribute)
+
+protected:
+    void setChangedFlag(bool changed) { m_ChangedFlag = changed; }
+    void clearChangedFlag() const { m_ChangedFlag = false; }
+    void setBuiltValue(const LmString& value) const { m_Value = value; }
+
+    /// The text that was last built or given, however old it is.
+    const LmString& builtValue() const { return m_Value; }
+
+private:
+    /// Writes the members into the text, by `setBuiltValue`. There are none here.
+    virtual void buildValue() const;
+
+    mutable LmString m_Value;
+    mutable bool m_ChangedFlag = false;
+};

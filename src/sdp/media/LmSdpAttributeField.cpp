@@ -1,0 +1,100 @@
+#include "sdp/media/LmSdpAttributeField.h"
+
+#include "LmLibs/LmUtil/LmCharacters.h"
+#include "LmLibs/LmUtil/LmLine.h"
+#include "sdp/crypto/LmSdpCryptoAttribute.h"
+#include "sdp/frame/LmSdpLine.h"
+#include "sdp/media/LmSdpRtpAttribute.h"
+
+namespace
+{
+
+constexpr const char* s_NoName = "Attempting to create Attribute Field with empty Name field";
+
+/// The value object of the class that the name calls for.
+LmHandle<LmSdpAttribute> makeValue(std::string_view name, const LmString& text)
+{
+    if (name == "rtpmap")
+    {
+        return new LmSdpRtpAttribute(text.c_str());
+    }
+    if (name == "crypto")
+    {
+        return new LmSdpCryptoAttribute(text.c_str());
+    }
+    return new LmSdpAttribute(text);
+}
+
+} // namespace
+
+LmSdpAttributeField::LmSdpAttributeField() : LmSdpField("a") {}
+
+LmSdpAttributeField::LmSdpAttributeField(const char* text) : LmSdpAttributeField()
+{
+    lmParseText(*this, text);
+}
+
+LmSdpAttributeField::LmSdpAttributeField(const char* name, const char* value) : LmSdpField("a"), m_Name(name)
+{
+    lmRefuseBlank<LmSdpParseError>(m_Name, s_NoName);
+    if (value != nullptr)
+    {
+        m_Attribute = makeValue(m_Name.view(), value);
+    }
+}
+
+LmSdpAttributeField::LmSdpAttributeField(const char* name, LmSdpAttribute* pValue)
+    : LmSdpField("a"), m_Attribute(pValue)
+{
+    m_Name = LmString(name);
+    lmRefuseBlank<LmSdpParseError>(m_Name, s_NoName);
+}
+
+LmSdpAttributeField::~LmSdpAttributeField() = default;
+
+void LmSdpAttributeField::setName(const char* name)
+{
+    change(m_Name, name);
+}
+
+LmString LmSdpAttributeField::getValue() const
+{
+    return hasValue() ? m_Attribute->getValue() : LmString();
+}
+
+void LmSdpAttributeField::setValue(LmSdpAttribute* pValue)
+{
+    m_Attribute = pValue;
+    setChangedFlag();
+}
+
+void LmSdpAttributeField::parse(LmInputStream& in)
+{
+    lmRefuseEmptyLine(in, "LmSdpAttributeField::parse Incomplete Attribute Field");
+    const LmLine line(in);
+    const std::size_t colon = line.view().find(':');
+    m_Name = LmString(line.view().substr(0, colon));
+    if (colon != std::string_view::npos)
+    {
+        m_Attribute = makeValue(m_Name.view(), LmString(lmUpToNul(line.view().substr(colon + 1))));
+    }
+}
+
+void LmSdpAttributeField::serialize(LmOutputStream& out) const
+{
+    lmRefuseBlank<LmException>(m_Name, "Serializing Invalid Attribute Field");
+    if (!hasValue())
+    {
+        lmWriteLine(out, *this, m_Name);
+        return;
+    }
+    out << getToken() << "=" << m_Name << ":";
+    const LmSdpAttribute& value = *m_Attribute;
+    value.serialize(out);
+    out << "\r\n";
+}
+
+LmSdpField* LmSdpAttributeField::sConstruct()
+{
+    return new LmSdpAttributeField;
+}

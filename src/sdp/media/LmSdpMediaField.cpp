@@ -1,0 +1,195 @@
+#include "sdp/media/LmSdpMediaField.h"
+
+#include "LmLibs/LmUtil/LmCharacters.h"
+#include "core/TraceScope.h"
+#include "sdp/frame/LmSdpLine.h"
+#include "sdp/frame/LmSdpWords.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace
+{
+
+Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpMediaField");
+
+[[noreturn]] void refuseIncomplete()
+{
+    LmException::sThrow("LmSdpMediaField::parse Incomplete Media Field");
+}
+
+[[noreturn]] void refuse()
+{
+    LmSdpParseError::sThrow("Parse error in LmSdpMediaField::parse()");
+}
+
+/// Takes the one character behind a word; a blank must not follow it.
+void takeSeparator(LmInputStream& in)
+{
+    in.read();
+    in.mark(1);
+    if (in.read() == ' ')
+    {
+        refuseIncomplete();
+    }
+    in.reset();
+}
+
+} // namespace
+
+LmSdpMediaField::LmSdpMediaField() : LmSdpField("m") {}
+
+LmSdpMediaField::LmSdpMediaField(const char* text) : LmSdpMediaField()
+{
+    const Quorvex::TraceScope trace(s_Logger, "LmSdpMediaField::LmSdpMediaField");
+    lmParseText(*this, text);
+}
+
+LmSdpMediaField::~LmSdpMediaField() = default;
+
+LmString LmSdpMediaField::getMediaFormats()
+{
+    return lmJoinWords(m_MediaFormats);
+}
+
+void LmSdpMediaField::setMediaType(const char* text)
+{
+    change(m_MediaType, text);
+}
+
+void LmSdpMediaField::setPort(unsigned int port)
+{
+    m_Port = port;
+    setChangedFlag();
+}
+
+void LmSdpMediaField::setNumberOfPorts(unsigned int number)
+{
+    m_NumberOfPorts = number;
+    setChangedFlag();
+}
+
+void LmSdpMediaField::setTransport(const char* text)
+{
+    change(m_Transport, text);
+}
+
+void LmSdpMediaField::setPort(const char* text)
+{
+    if (text != nullptr)
+    {
+        setPort(static_cast<unsigned int>(lmAtoi(text)));
+    }
+}
+
+void LmSdpMediaField::setNumberOfPorts(const char* text)
+{
+    if (text != nullptr)
+    {
+        setNumberOfPorts(static_cast<unsigned int>(lmAtoi(text)));
+    }
+}
+
+void LmSdpMediaField::setMediaFormats(const char* text)
+{
+    m_MediaFormats = lmWords(lmViewOf(text));
+    setChangedFlag();
+}
+
+bool LmSdpMediaField::isMediaFormatPresent(unsigned int format)
+{
+    return find(format) != m_MediaFormats.end();
+}
+
+void LmSdpMediaField::addMediaFormat(unsigned int format)
+{
+    if (!isMediaFormatPresent(format))
+    {
+        char digits[11];
+        const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, static_cast<int>(format));
+        m_MediaFormats.emplace_back(std::string_view(digits, static_cast<std::size_t>(end.ptr - digits)));
+    }
+}
+
+void LmSdpMediaField::removeMediaFormat(unsigned int format)
+{
+    if (const auto found = find(format); found != m_MediaFormats.end())
+    {
+        m_MediaFormats.erase(found);
+    }
+}
+
+void LmSdpMediaField::parse(LmInputStream& in)
+{
+    const Quorvex::TraceScope trace(s_Logger, "LmSdpMediaField::parse");
+    if (LmStreamTokenizer::sIsEmptyLine(in))
+    {
+        refuseIncomplete();
+    }
+    in >> m_MediaType;
+    takeSeparator(in);
+
+    char buffer[256];
+    if (!LmStreamTokenizer::sGetToken(in, " ", buffer, sizeof buffer))
+    {
+        refuse();
+    }
+    takePort(buffer);
+    takeSeparator(in);
+
+    in >> m_Transport;
+    if (LmStreamTokenizer::sIsEmptyLine(in))
+    {
+        refuseIncomplete();
+    }
+    if (!LmStreamTokenizer::sGetLine(in, buffer, sizeof buffer))
+    {
+        refuse();
+    }
+    setMediaFormats(buffer);
+}
+
+void LmSdpMediaField::serialize(LmOutputStream& out) const
+{
+    constexpr const char* incomplete = "LmSdpMediaField::serialize() Incomplete Media Field";
+    lmRefuseBlank<LmException>(m_MediaType, incomplete);
+    lmRefuseBlank<LmException>(m_Transport, incomplete);
+    const LmSdpTrailingWords formats{m_MediaFormats};
+    if (m_NumberOfPorts == 0)
+    {
+        lmWriteLine(out, *this, m_MediaType, " ", m_Port, " ", m_Transport, formats);
+    }
+    else
+    {
+        lmWriteLine(out, *this, m_MediaType, " ", m_Port, "/", m_NumberOfPorts, " ", m_Transport, formats);
+    }
+}
+
+LmSdpField* LmSdpMediaField::sConstruct()
+{
+    return new LmSdpMediaField;
+}
+
+void LmSdpMediaField::takePort(std::string_view token)
+{
+    const std::size_t slash = token.find('/');
+    if (slash == std::string_view::npos)
+    {
+        setPort(static_cast<unsigned int>(lmAtoi(token)));
+        return;
+    }
+    const std::string_view port = token.substr(0, slash);
+    const std::string_view number = token.substr(slash + 1);
+    if (lmAtol(port) <= 0 || lmAtoi(number) <= 0)
+    {
+        refuse();
+    }
+    setPort(static_cast<unsigned int>(lmAtoi(port)));
+    setNumberOfPorts(static_cast<unsigned int>(lmAtoi(number)));
+}
+
+LmSdpMediaField::Formats::iterator LmSdpMediaField::find(unsigned int format)
+{
+    return std::find_if(m_MediaFormats.begin(), m_MediaFormats.end(),
+                        [format](const LmString& entry) { return lmAtoi(entry.view()) == static_cast<int>(format); });
+}
