@@ -25,6 +25,13 @@ public:
         return pLogger != nullptr ? pLogger : make();
     }
 
+    /// The logger, unless it would drop a line at `level`: null then, and so it is for every lower level.
+    const Logger* listening(int level)
+    {
+        const Logger* const pLogger = get();
+        return pLogger != nullptr && !pLogger->isSilentAt(level) ? pLogger : nullptr;
+    }
+
 private:
     Logger* make();
 
@@ -32,5 +39,15 @@ private:
     std::atomic<Logger*> m_pLogger{nullptr};
     std::atomic<bool> m_Made{false};
 };
+
+/// What a log statement asks for its logger: a source file's, or one that was asked before.
+inline const Logger* listening(FileLogger& fileLogger, int level)
+{
+    return fileLogger.listening(level);
+}
+inline const Logger* listening(const Logger* pLogger, int)
+{
+    return pLogger;
+}
 
 } // namespace Quorvex

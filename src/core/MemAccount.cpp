@@ -2,9 +2,7 @@
 
 #include "core/ThreadHeap.h"
 
-#include <cstring>
 #include <mutex>
-#include <new>
 
 namespace Quorvex
 {
@@ -12,12 +10,6 @@ namespace
 {
 
 std::mutex s_Making;
-
-/// Stands in front of each block, so that a block can be given back without its size.
-struct Header
-{
-    std::size_t size;
-};
 
 std::size_t atLeastZero(std::int64_t figure)
 {
@@ -73,28 +65,6 @@ MemAccount::Usage MemAccount::usage(const char* account)
 {
     const MemAccount* const found = sFind(account);
     return found == nullptr ? Usage() : ThreadHeap::usage(*found);
-}
-
-void* MemAccount::allocate(std::size_t size)
-{
-    if (size > SIZE_MAX - sizeof(Header))
-    {
-        throw std::bad_alloc();
-    }
-    auto* const header = static_cast<Header*>(ThreadHeap::allocate(size + sizeof(Header)));
-    header->size = size;
-    ThreadHeap::count(*this, 1, size);
-    return header + 1;
-}
-
-void MemAccount::deallocate(void* block) noexcept
-{
-    if (block != nullptr)
-    {
-        Header* const header = static_cast<Header*>(block) - 1;
-        ThreadHeap::count(*this, -1, header->size);
-        ThreadHeap::deallocate(header, header->size + sizeof(Header));
-    }
 }
 
 } // namespace Quorvex

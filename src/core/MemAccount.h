@@ -72,6 +72,7 @@ public:
 
 private:
     friend class ThreadHeap;
+    struct Header;
 
     MemAccount(const char* account, unsigned int index, MemAccount* next);
     ~MemAccount() = default;

@@ -1,70 +1,17 @@
 #include "core/ThreadHeap.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 #include <mutex>
 #include <new>
 #include <utility>
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define QUORVEX_SYSTEM_BLOCKS 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || __has_feature(memory_sanitizer)
-#define QUORVEX_SYSTEM_BLOCKS 1
-#endif
-#endif
 
 namespace Quorvex
 {
 namespace
 {
 
-constexpr std::size_t s_Granule = 16;
-constexpr std::size_t s_Classes = ThreadHeap::sm_LargestBlock / s_Granule;
 constexpr std::size_t s_ListBytes = 32 * 1024;
 constexpr std::size_t s_SmallestChunk = 512;
-/// Accounts beyond these are counted under a lock.
-constexpr unsigned int s_OwnAccounts = 32;
-
-/// A free block; the first of a full list that lies in the depot also leads to the next list there.
-struct FreeBlock
-{
-    FreeBlock* next;
-    FreeBlock* nextList;
-};
-static_assert(sizeof(FreeBlock) <= s_Granule, "a free block must fit the smallest size");
-
-std::size_t classOf(std::size_t size)
-{
-    return size == 0 ? 0 : (size - 1) / s_Granule;
-}
-
-std::size_t bytesOf(std::size_t sizeClass)
-{
-    return (sizeClass + 1) * s_Granule;
-}
-
-struct FreeList
-{
-    FreeBlock* head = nullptr;
-    std::size_t count = 0;
-
-    void push(FreeBlock* block)
-    {
-        block->next = head;
-        head = block;
-        ++count;
-    }
-
-    FreeBlock* pop()
-    {
-        FreeBlock* const block = head;
-        head = block->next;
-        --count;
-        return block;
-    }
-};
 
 /// Memory from the system, to be cut into blocks. The link keeps each chunk in reach of whoever looks for leaks.
 struct Chunk
@@ -73,41 +20,7 @@ struct Chunk
     std::size_t bytes;
 };
 
-/// What all threads share: full lists by size class, and the chunks. It is never destroyed, since objects may outlive
-/// any order of static destruction.
-struct Depot
-{
-    std::mutex mutex;
-    std::array<FreeBlock*, s_Classes> lists{};
-    Chunk* chunks = nullptr;
-
-    void keep(Chunk* chunk)
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        chunk->next = chunks;
-        chunks = chunk;
-    }
-
-    void put(std::size_t sizeClass, FreeList& list)
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        list.head->nextList = lists[sizeClass];
-        lists[sizeClass] = list.head;
-        list = FreeList();
-    }
-
-    FreeBlock* take(std::size_t sizeClass)
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        FreeBlock* const list = lists[sizeClass];
-        if (list != nullptr)
-        {
-            lists[sizeClass] = list->nextList;
-        }
-        return list;
-    }
-};
-
+/// An object that is never destroyed, since what needs it may outlive any order of static destruction.
 template <typename T>
 T& immortal()
 {
@@ -116,43 +29,103 @@ T& immortal()
     return *s_Object;
 }
 
-/// Blocks of one size: those being handed out, and at most one full list behind them.
-class SizeClass
+} // namespace
+
+__thread ThreadHeap::Heap* ThreadHeap::st_Heap __attribute__((tls_model("initial-exec"))) = nullptr;
+__thread bool ThreadHeap::st_Ended __attribute__((tls_model("initial-exec"))) = false;
+
+/// What all threads share: lists by size, and the chunks.
+struct ThreadHeap::Depot
+{
+    std::mutex mutex;
+    std::array<Block*, sm_Classes> lists{};
+    Chunk* chunks = nullptr;
+
+    void put(std::size_t sizeClass, Block* list)
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        list->nextList = lists[sizeClass];
+        lists[sizeClass] = list;
+    }
+
+    Block* take(std::size_t sizeClass)
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        Block* const list = lists[sizeClass];
+        if (list != nullptr)
+        {
+            lists[sizeClass] = list->nextList;
+        }
+        return list;
+    }
+
+    void keep(Chunk* chunk)
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        chunk->next = chunks;
+        chunks = chunk;
+    }
+};
+
+/// Where a thread's blocks of one size come from when its list has run out, and go to when that is full: a full list
+/// kept aside, a chunk to be cut up, and the depot.
+class ThreadHeap::Supply
 {
 public:
-    void* allocate(std::size_t sizeClass)
+    static List emptyList(std::size_t sizeClass)
     {
-        if (m_Current.count != 0)
-        {
-            return m_Current.pop();
-        }
-        return refill(sizeClass);
+        List list;
+        list.room = s_ListBytes / bytesOf(sizeClass);
+        return list;
     }
 
-    void deallocate(std::size_t sizeClass, void* block)
+    void* refill(std::size_t sizeClass, List& list)
     {
-        if (m_Current.count >= s_ListBytes / bytesOf(sizeClass))
+        if (m_Aside != nullptr)
         {
-            if (m_Spare.count != 0)
+            list.head = std::exchange(m_Aside, nullptr);
+            list.room = 0;
+            return list.pop();
+        }
+        if (m_Unused < bytesOf(sizeClass))
+        {
+            list.head = immortal<Depot>().take(sizeClass);
+            for (const Block* block = list.head; block != nullptr; block = block->next)
             {
-                immortal<Depot>().put(sizeClass, m_Spare);
+                --list.room;
             }
-            std::swap(m_Current, m_Spare);
+            if (list.head != nullptr)
+            {
+                return list.pop();
+            }
+            takeChunk(bytesOf(sizeClass));
         }
-        m_Current.push(static_cast<FreeBlock*>(block));
+        return carve(sizeClass);
     }
 
-    void surrender(std::size_t sizeClass)
+    /// Makes room in a list that is full.
+    void setAside(std::size_t sizeClass, List& list)
+    {
+        if (m_Aside != nullptr)
+        {
+            immortal<Depot>().put(sizeClass, m_Aside);
+        }
+        m_Aside = list.head;
+        list = emptyList(sizeClass);
+    }
+
+    /// Leaves all blocks to other threads.
+    void surrender(std::size_t sizeClass, List& list)
     {
         while (m_Unused >= bytesOf(sizeClass))
         {
-            m_Current.push(static_cast<FreeBlock*>(carve(sizeClass)));
+            list.push(static_cast<Block*>(carve(sizeClass)));
         }
-        for (FreeList* list : {&m_Current, &m_Spare})
+        for (Block* head : {list.head, m_Aside})
         {
-            if (list->count != 0)
+            if (head != nullptr)
             {
-                immortal<Depot>().put(sizeClass, *list);
+                immortal<Depot>().put(sizeClass, head);
             }
         }
     }
@@ -164,30 +137,6 @@ private:
         m_Chunk += bytesOf(sizeClass);
         m_Unused -= bytesOf(sizeClass);
         return block;
-    }
-
-    void* refill(std::size_t sizeClass)
-    {
-        if (m_Spare.count != 0)
-        {
-            std::swap(m_Current, m_Spare);
-            return m_Current.pop();
-        }
-        if (m_Unused >= bytesOf(sizeClass))
-        {
-            return carve(sizeClass);
-        }
-        m_Current.head = immortal<Depot>().take(sizeClass);
-        for (const FreeBlock* block = m_Current.head; block != nullptr; block = block->next)
-        {
-            ++m_Current.count;
-        }
-        if (m_Current.count != 0)
-        {
-            return m_Current.pop();
-        }
-        takeChunk(bytesOf(sizeClass));
-        return carve(sizeClass);
     }
 
     void takeChunk(std::size_t blockBytes)
@@ -202,22 +151,19 @@ private:
         m_Taken += bytes;
     }
 
-    FreeList m_Current;
-    FreeList m_Spare;
+    Block* m_Aside = nullptr;
     unsigned char* m_Chunk = nullptr;
     std::size_t m_Unused = 0;
     std::size_t m_Taken = 0;
 };
 
-} // namespace
-
-/// One thread's lists and figures.
-struct ThreadHeap::Heap
+ThreadHeap::Heap::Heap()
 {
-    std::array<SizeClass, s_Classes> classes;
-    std::array<MemAccount::Figures, s_OwnAccounts> figures;
-    Heap* next = nullptr;
-};
+    for (std::size_t sizeClass = 0; sizeClass < sm_Classes; ++sizeClass)
+    {
+        current[sizeClass] = Supply::emptyList(sizeClass);
+    }
+}
 
 /// All heaps; its lock is also the one of the figures that stand in the accounts themselves.
 struct ThreadHeap::Heaps
@@ -243,7 +189,7 @@ struct ThreadHeap::Heaps
         *link = heap->next;
         for (MemAccount* account = MemAccount::sm_First.load(); account != nullptr; account = account->m_Next)
         {
-            if (account->m_Index < s_OwnAccounts)
+            if (account->m_Index < sm_OwnAccounts)
             {
                 heap->figures[account->m_Index].addTo(account->m_Ended);
             }
@@ -254,73 +200,69 @@ struct ThreadHeap::Heaps
 /// Takes a thread's heap down when the thread ends. What the thread frees after that goes straight to the depot.
 struct ThreadHeap::HeapOwner
 {
-    Heap* heap = nullptr;
+    HeapOwner()
+    {
+        heap.supplies = supplies.data();
+        immortal<Heaps>().enter(&heap);
+        st_Heap = &heap;
+    }
 
     ~HeapOwner()
     {
         st_Ended = true;
         st_Heap = nullptr;
-        if (heap != nullptr)
+        immortal<Heaps>().leave(&heap);
+        for (std::size_t sizeClass = 0; sizeClass < sm_Classes; ++sizeClass)
         {
-            immortal<Heaps>().leave(heap);
-            for (std::size_t sizeClass = 0; sizeClass < s_Classes; ++sizeClass)
-            {
-                heap->classes[sizeClass].surrender(sizeClass);
-            }
-            delete heap;
+            supplies[sizeClass].surrender(sizeClass, heap.current[sizeClass]);
         }
     }
+
+    Heap heap;
+    std::array<Supply, sm_Classes> supplies;
 };
 
-__attribute__((tls_model("initial-exec"))) thread_local ThreadHeap::Heap* ThreadHeap::st_Heap = nullptr;
-__attribute__((tls_model("initial-exec"))) thread_local bool ThreadHeap::st_Ended = false;
-
+/// Gives null in a thread that is past the end of its thread-local objects.
 ThreadHeap::Heap* ThreadHeap::sMakeHeap()
 {
     if (!st_Ended)
     {
         thread_local HeapOwner t_Owner;
-        t_Owner.heap = new Heap;
-        immortal<Heaps>().enter(t_Owner.heap);
-        st_Heap = t_Owner.heap;
+        st_Heap = &t_Owner.heap;
     }
     return st_Heap;
 }
 
-/// Null only in a thread that is past the end of its thread-local objects.
-ThreadHeap::Heap* ThreadHeap::sHeap()
+void* ThreadHeap::sAllocateSlowly(std::size_t size)
 {
-    return st_Heap != nullptr ? st_Heap : sMakeHeap();
-}
-
-void* ThreadHeap::allocate(std::size_t size)
-{
+    Heap* const heap = st_Heap != nullptr ? st_Heap : sMakeHeap();
 #ifndef QUORVEX_SYSTEM_BLOCKS
     if (size <= sm_LargestBlock)
     {
-        if (Heap* const heap = sHeap())
-        {
-            return heap->classes[classOf(size)].allocate(classOf(size));
-        }
-        return ::operator new(bytesOf(classOf(size)));
+        const std::size_t sizeClass = classOf(size);
+        return heap != nullptr ? heap->supplies[sizeClass].refill(sizeClass, heap->current[sizeClass])
+                               : ::operator new(bytesOf(sizeClass));
     }
 #endif
+    static_cast<void>(heap);
     return ::operator new(size);
 }
 
-void ThreadHeap::deallocate(void* block, std::size_t size) noexcept
+void ThreadHeap::sDeallocateSlowly(void* block, std::size_t size) noexcept
 {
 #ifndef QUORVEX_SYSTEM_BLOCKS
     if (size <= sm_LargestBlock)
     {
+        const std::size_t sizeClass = classOf(size);
+        auto* const freed = static_cast<Block*>(block);
         if (Heap* const heap = st_Heap)
         {
-            heap->classes[classOf(size)].deallocate(classOf(size), block);
+            heap->supplies[sizeClass].setAside(sizeClass, heap->current[sizeClass]);
+            heap->current[sizeClass].push(freed);
             return;
         }
-        FreeList list;
-        list.push(static_cast<FreeBlock*>(block));
-        immortal<Depot>().put(classOf(size), list);
+        freed->next = nullptr;
+        immortal<Depot>().put(sizeClass, freed);
         return;
     }
 #endif
@@ -328,17 +270,11 @@ void ThreadHeap::deallocate(void* block, std::size_t size) noexcept
     ::operator delete(block);
 }
 
-void ThreadHeap::count(MemAccount& account, int objects, std::size_t bytes) noexcept
+void ThreadHeap::sCountSlowly(MemAccount& account, std::int64_t objects, std::int64_t bytes,
+                              std::int64_t total) noexcept
 {
-    const std::int64_t signedBytes = objects * static_cast<std::int64_t>(bytes);
-    const int total = objects > 0 ? 1 : 0;
-    if (st_Heap != nullptr && account.m_Index < s_OwnAccounts)
-    {
-        st_Heap->figures[account.m_Index].add(objects, signedBytes, total);
-        return;
-    }
     const std::lock_guard<std::mutex> lock(immortal<Heaps>().mutex);
-    account.m_Ended.add(objects, signedBytes, total);
+    account.m_Ended.add(objects, bytes, total);
 }
 
 MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
@@ -347,11 +283,39 @@ MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
     const std::lock_guard<std::mutex> lock(heaps.mutex);
     MemAccount::Figures sum;
     account.m_Ended.addTo(sum);
-    for (const Heap* heap = heaps.first; heap != nullptr && account.m_Index < s_OwnAccounts; heap = heap->next)
+    for (const Heap* heap = heaps.first; heap != nullptr && account.m_Index < sm_OwnAccounts; heap = heap->next)
     {
         heap->figures[account.m_Index].addTo(sum);
     }
     return sum.usage();
+}
+
+/// Stands in front of each block of an account, so that it can be given back without its size.
+struct MemAccount::Header
+{
+    std::size_t size;
+};
+
+void* MemAccount::allocate(std::size_t size)
+{
+    if (size > SIZE_MAX - sizeof(Header))
+    {
+        throw std::bad_alloc();
+    }
+    auto* const header = static_cast<Header*>(ThreadHeap::allocate(size + sizeof(Header)));
+    header->size = size;
+    ThreadHeap::count(*this, 1, static_cast<std::int64_t>(size), 1);
+    return header + 1;
+}
+
+void MemAccount::deallocate(void* block) noexcept
+{
+    if (block != nullptr)
+    {
+        Header* const header = static_cast<Header*>(block) - 1;
+        ThreadHeap::count(*this, -1, -static_cast<std::int64_t>(header->size), 0);
+        ThreadHeap::deallocate(header, header->size + sizeof(Header));
+    }
 }
 
 } // namespace Quorvex

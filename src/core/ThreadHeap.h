@@ -2,7 +2,17 @@
 
 #include "core/MemAccount.h"
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define QUORVEX_SYSTEM_BLOCKS 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || __has_feature(memory_sanitizer)
+#define QUORVEX_SYSTEM_BLOCKS 1
+#endif
+#endif
 
 namespace Quorvex
 {
@@ -21,27 +31,127 @@ public:
     static constexpr std::size_t sm_LargestBlock = 256;
 
     /// @throws std::bad_alloc
-    static void* allocate(std::size_t size);
+    static void* allocate(std::size_t size)
+    {
+#ifndef QUORVEX_SYSTEM_BLOCKS
+        Heap* const heap = st_Heap;
+        if (__builtin_expect(size <= sm_LargestBlock && heap != nullptr, 1))
+        {
+            List& list = heap->current[classOf(size)];
+            if (__builtin_expect(list.head != nullptr, 1))
+            {
+                return list.pop();
+            }
+        }
+#endif
+        return sAllocateSlowly(size);
+    }
 
     /// `size` is the number that `block` was taken with.
-    static void deallocate(void* block, std::size_t size) noexcept;
+    static void deallocate(void* block, std::size_t size) noexcept
+    {
+#ifndef QUORVEX_SYSTEM_BLOCKS
+        Heap* const heap = st_Heap;
+        if (__builtin_expect(size <= sm_LargestBlock && heap != nullptr, 1))
+        {
+            List& list = heap->current[classOf(size)];
+            if (__builtin_expect(list.room != 0, 1))
+            {
+                list.push(static_cast<Block*>(block));
+                return;
+            }
+        }
+#endif
+        sDeallocateSlowly(block, size);
+    }
 
-    /// Counts a block of `bytes` taken (`objects` 1) or given back (`objects` -1) on an account.
-    static void count(MemAccount& account, int objects, std::size_t bytes) noexcept;
+    /// Adds to the figures of an account.
+    static void count(MemAccount& account, std::int64_t objects, std::int64_t bytes, std::int64_t total) noexcept
+    {
+        Heap* const heap = st_Heap;
+        if (__builtin_expect(heap != nullptr && account.m_Index < sm_OwnAccounts, 1))
+        {
+            heap->figures[account.m_Index].add(objects, bytes, total);
+            return;
+        }
+        sCountSlowly(account, objects, bytes, total);
+    }
 
     /// What all threads together have counted on an account.
     static MemAccount::Usage usage(const MemAccount& account);
 
 private:
-    struct Heap;
+    static constexpr std::size_t sm_Granule = 16;
+    static constexpr std::size_t sm_Classes = sm_LargestBlock / sm_Granule;
+
+    /// Accounts beyond these are counted under a lock.
+    static constexpr unsigned int sm_OwnAccounts = 32;
+
+    /// A free block; the first of a list that lies in the depot also leads to the next list there.
+    struct Block
+    {
+        Block* next;
+        Block* nextList;
+    };
+    static_assert(sizeof(Block) <= sm_Granule, "a free block must fit the smallest size");
+
+    /// Free blocks of one size. `room` is how many more make a full list.
+    struct List
+    {
+        Block* head = nullptr;
+        std::size_t room = 0;
+
+        void push(Block* block)
+        {
+            block->next = head;
+            head = block;
+            --room;
+        }
+
+        Block* pop()
+        {
+            Block* const block = head;
+            head = block->next;
+            ++room;
+            return block;
+        }
+    };
+
+    class Supply;
+    struct Depot;
     struct HeapOwner;
     struct Heaps;
 
-    static Heap* sMakeHeap();
-    static Heap* sHeap();
+    /// One thread's lists and figures.
+    struct Heap
+    {
+        Heap();
 
-    static thread_local Heap* st_Heap;
-    static thread_local bool st_Ended;
+        std::array<List, sm_Classes> current; ///< blocks being handed out
+        std::array<MemAccount::Figures, sm_OwnAccounts> figures;
+        Supply* supplies = nullptr; ///< where more blocks come from, by size
+        Heap* next = nullptr;
+    };
+
+    static constexpr std::size_t classOf(std::size_t size)
+    {
+        return size == 0 ? 0 : (size - 1) / sm_Granule;
+    }
+    static constexpr std::size_t bytesOf(std::size_t sizeClass)
+    {
+        return (sizeClass + 1) * sm_Granule;
+    }
+
+    static void* sAllocateSlowly(std::size_t size);
+    static void sDeallocateSlowly(void* block, std::size_t size) noexcept;
+    static void sCountSlowly(MemAccount& account, std::int64_t objects, std::int64_t bytes,
+                             std::int64_t total) noexcept;
+    static Heap* sMakeHeap();
+
+    /// The calling thread's heap; null before its first block and after the thread's end. `__thread`, since it never
+    /// needs a constructor, and other libraries would otherwise ask for one at each use.
+    static __thread Heap* st_Heap __attribute__((tls_model("initial-exec")));
+    static __thread bool st_Ended __attribute__((tls_model("initial-exec")));
 };
 
 } // namespace Quorvex

@@ -19,7 +19,7 @@ public:
         }
     }
 
-    TraceScope(FileLogger& fileLogger, const char* name) : TraceScope(unlessSilent(fileLogger.get()), name) {}
+    TraceScope(FileLogger& fileLogger, const char* name) : TraceScope(fileLogger.listening(eTrace), name) {}
 
     TraceScope(const TraceScope&) = delete;
     TraceScope& operator=(const TraceScope&) = delete;
@@ -37,11 +37,6 @@ protected:
     void dtorLog() const;
 
 private:
-    static const Logger* unlessSilent(const Logger* pLogger)
-    {
-        return pLogger != nullptr && pLogger->isSilentAt(eTrace) ? nullptr : pLogger;
-    }
-
     static bool isTraced(const Logger* pLogger)
     {
         if (pLogger == nullptr)

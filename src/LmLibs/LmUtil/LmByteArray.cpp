@@ -4,18 +4,29 @@
 #include <limits>
 #include <new>
 
-LmByteArray::LmByteArray(std::size_t size, const void* data)
-    : m_Bytes(static_cast<unsigned char*>(::operator new(size))), m_Size(static_cast<unsigned int>(size))
+LmByteArray::LmByteArray(std::size_t size, const void* data) noexcept : m_Size(static_cast<unsigned int>(size))
 {
     if (size != 0)
     {
-        std::memcpy(m_Bytes, data, size);
+        std::memcpy(static_cast<void*>(this + 1), data, size);
     }
 }
 
-LmByteArray::~LmByteArray()
+LmByteArray::~LmByteArray() = default;
+
+void* LmByteArray::operator new(std::size_t objectSize, std::size_t size)
 {
-    ::operator delete(m_Bytes);
+    return ::operator new(objectSize + size);
+}
+
+void LmByteArray::operator delete(void* block, std::size_t) noexcept
+{
+    ::operator delete(block);
+}
+
+void LmByteArray::operator delete(void* block) noexcept
+{
+    ::operator delete(block);
 }
 
 LmHandle<LmByteArray> LmByteArray::sCreate(const char* text)
@@ -25,10 +36,10 @@ LmHandle<LmByteArray> LmByteArray::sCreate(const char* text)
     {
         throw std::bad_alloc();
     }
-    return new LmByteArray(size, text);
+    return new (std::size_t(size)) LmByteArray(size, text);
 }
 
 LmHandle<LmByteArray> LmByteArray::sCreate(unsigned int size, const void* data)
 {
-    return new LmByteArray(size, data);
+    return new (std::size_t(size)) LmByteArray(size, data);
 }

@@ -16,12 +16,17 @@ public:
 
     ~LmByteArray() override;
 
-    const unsigned char* getBytes() const { return m_Bytes; }
+    const unsigned char* getBytes() const { return reinterpret_cast<const unsigned char*>(this + 1); }
     unsigned int getSize() const { return m_Size; }
 
-private:
-    LmByteArray(std::size_t size, const void* data);
+    static void operator delete(void* block) noexcept;
 
-    unsigned char* m_Bytes;
+private:
+    LmByteArray(std::size_t size, const void* data) noexcept;
+
+    /// The bytes lie behind the object in the same block of memory.
+    static void* operator new(std::size_t objectSize, std::size_t size);
+    static void operator delete(void* block, std::size_t size) noexcept;
+
     unsigned int m_Size;
 };

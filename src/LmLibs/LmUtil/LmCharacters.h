@@ -35,16 +35,17 @@ constexpr std::string_view lmViewOf(const char* text)
     return text == nullptr ? std::string_view() : std::string_view(text);
 }
 
-/// The first CR or LF in a range, or its end. One pass, so that text with one kind of line end only stays linear.
-inline const char* lmFindLineEnd(const char* text, const char* end)
+/// The first of two bytes in a range, or its end. Lines and words are short, so the sixteen bytes at a time are looked
+/// at in place rather than in a function of the C library.
+inline const char* lmFindEither(const char* text, const char* end, char one, char other)
 {
 #ifdef __SSE2__
-    const __m128i cr = _mm_set1_epi8('\r');
-    const __m128i lf = _mm_set1_epi8('\n');
+    const __m128i ones = _mm_set1_epi8(one);
+    const __m128i others = _mm_set1_epi8(other);
     for (; end - text >= 16; text += 16)
     {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
-        const __m128i hits = _mm_or_si128(_mm_cmpeq_epi8(bytes, cr), _mm_cmpeq_epi8(bytes, lf));
+        const __m128i hits = _mm_or_si128(_mm_cmpeq_epi8(bytes, ones), _mm_cmpeq_epi8(bytes, others));
         const auto mask = static_cast<unsigned int>(_mm_movemask_epi8(hits));
         if (mask != 0)
         {
@@ -52,11 +53,25 @@ inline const char* lmFindLineEnd(const char* text, const char* end)
         }
     }
 #endif
-    while (text != end && !lmIsLineEnd(*text))
+    while (text != end && *text != one && *text != other)
     {
         ++text;
     }
     return text;
+}
+
+/// The first CR or LF in a range, or its end. One pass, so that text with one kind of line end only stays linear.
+inline const char* lmFindLineEnd(const char* text, const char* end)
+{
+    return lmFindEither(text, end, '\r', '\n');
+}
+
+/// The place of the first such byte in the text, or npos.
+inline std::size_t lmFindByte(std::string_view text, char byte)
+{
+    const char* const end = text.data() + text.size();
+    const char* const found = lmFindEither(text.data(), end, byte, byte);
+    return found == end ? std::string_view::npos : static_cast<std::size_t>(found - text.data());
 }
 
 /// The text without white space at both ends.

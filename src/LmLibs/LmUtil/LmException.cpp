@@ -10,7 +10,7 @@ namespace __cxxabiv1
 {
 
 // The run-time library exports this entry without declaring it.
-extern "C" [[noreturn]] void __cxa_throw(void* object, std::type_info* type, void (*destructor)(void*));
+extern "C" void __cxa_throw(void* object, std::type_info* type, void (*destructor)(void*));
 
 } // namespace __cxxabiv1
 

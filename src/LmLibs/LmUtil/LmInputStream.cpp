@@ -7,9 +7,6 @@ LmInputStream::~LmInputStream() = default;
 
 LmInputStream& operator>>(LmInputStream& in, LmString& word)
 {
-    lmWithCursor(in, [&word](auto& cursor) {
-        cursor.skipWhile([](int c) { return lmIsSpace(c) && !lmIsLineEnd(c); });
-        word = LmString(cursor.takeUntil([](int c) { return lmIsSpace(c); }));
-    });
+    lmWithCursor(in, [&word](auto& cursor) { word = LmString(lmTakeWord(cursor)); });
     return in;
 }

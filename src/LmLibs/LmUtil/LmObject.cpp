@@ -17,13 +17,6 @@ std::atomic<long> s_Live{0};
 
 } // namespace
 
-LmObject::~LmObject()
-{
-#ifndef NDEBUG
-    sCountLive(-1);
-#endif
-}
-
 LmObject* LmObject::clone() const
 {
     return nullptr;

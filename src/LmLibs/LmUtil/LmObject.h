@@ -14,7 +14,7 @@ class LMUTIL_API LmObject
 public:
     LmObject() noexcept
     {
-#ifndef NDEBUG
+#ifdef LMUTIL_COUNT_OBJECTS
         sCountLive(1);
 #endif
     }
@@ -26,7 +26,12 @@ public:
         return *this;
     }
 
-    virtual ~LmObject();
+    virtual ~LmObject()
+    {
+#ifdef LMUTIL_COUNT_OBJECTS
+        sCountLive(-1);
+#endif
+    }
 
     /// A copy of this object, without an owner; a null pointer where the class offers none, as here.
     virtual LmObject* clone() const;
@@ -64,7 +69,7 @@ public:
         return m_Count.isOne();
     }
 
-    /// How many objects are alive; counted in debug builds, elsewhere 0.
+    /// How many objects are alive; counted where the library was built for debugging, elsewhere 0.
     static long sLiveObjects();
 
 protected:

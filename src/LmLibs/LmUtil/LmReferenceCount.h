@@ -42,11 +42,16 @@ public:
     std::uint32_t decrement() noexcept
     {
         const std::uint32_t count = m_Count.load(std::memory_order_acquire);
+        if (count == 1)
+        {
+            m_Count.store(0, std::memory_order_relaxed);
+            return 0;
+        }
         if (count == sm_Immortal || count == 0)
         {
             return count;
         }
-        if (count == 1 || __libc_single_threaded)
+        if (__libc_single_threaded)
         {
             m_Count.store(count - 1, std::memory_order_relaxed);
             return count - 1;

@@ -11,7 +11,7 @@ public:
     LmSerializable() = default;
     LmSerializable(const LmSerializable&) = default;
     LmSerializable& operator=(const LmSerializable&) = default;
-    virtual ~LmSerializable();
+    virtual ~LmSerializable() = default;
 
     /// Writes this object. What it raises, and what has been written by then, each class says.
     virtual void serialize(LmOutputStream& out) const = 0;

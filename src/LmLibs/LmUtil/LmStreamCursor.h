@@ -136,3 +136,12 @@ std::string_view lmTakeLine(Cursor& cursor)
     }
     return line;
 }
+
+/// Takes the next word of this line: white space other than line ends is passed over, and the word ends in front of
+/// any white space. Nothing where the line or the input ends first. The view is valid as that of `takeUntil` is.
+template <typename Cursor>
+std::string_view lmTakeWord(Cursor& cursor)
+{
+    cursor.skipWhile([](int c) { return lmIsSpace(c) && !lmIsLineEnd(c); });
+    return cursor.takeUntil([](int c) { return lmIsSpace(c); });
+}

@@ -1,7 +1,6 @@
 #include "LmLibs/LmUtil/LmStreamTokenizer.h"
 
 #include "LmLibs/LmUtil/LmLine.h"
-#include "LmLibs/LmUtil/LmStreamCursor.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -28,22 +27,6 @@ bool store(std::string_view text, char* buffer, unsigned int size)
 }
 
 } // namespace
-
-int LmStreamTokenizer::sDiscardWhite(LmInputStream& in)
-{
-    return lmWithCursor(in, [](auto& cursor) {
-        cursor.skipWhile(lmIsSpace);
-        return cursor.peek();
-    });
-}
-
-bool LmStreamTokenizer::sIsEmptyLine(LmInputStream& in)
-{
-    return lmWithCursor(in, [](auto& cursor) {
-        const int next = cursor.peek();
-        return next == -1 || lmIsLineEnd(next);
-    });
-}
 
 LmString LmStreamTokenizer::sGetLine(LmInputStream& in)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LmLibs/LmUtil/LmInputStream.h"
+#include "LmLibs/LmUtil/LmStreamCursor.h"
 #include "LmLibs/LmUtil/LmString.h"
 
 /// The reading operations on which every parser rests. All work at the stream's present position.
@@ -13,10 +14,22 @@ public:
 
     /// Consumes white space, line ends included. Gives the next byte as 0 to 255 without consuming it, or -1 at the
     /// end of input.
-    static int sDiscardWhite(LmInputStream& in);
+    static int sDiscardWhite(LmInputStream& in)
+    {
+        return lmWithCursor(in, [](auto& cursor) {
+            cursor.skipWhile(lmIsSpace);
+            return cursor.peek();
+        });
+    }
 
     /// True when nothing of this line is left. A line of blanks is not empty. Consumes nothing.
-    static bool sIsEmptyLine(LmInputStream& in);
+    static bool sIsEmptyLine(LmInputStream& in)
+    {
+        return lmWithCursor(in, [](auto& cursor) {
+            const int next = cursor.peek();
+            return next == -1 || lmIsLineEnd(next);
+        });
+    }
 
     /// The rest of the line, blanks included, without its line end, which is consumed.
     static LmString sGetLine(LmInputStream& in);

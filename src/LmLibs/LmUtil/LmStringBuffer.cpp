@@ -16,9 +16,10 @@ namespace
 
 constexpr std::size_t s_Granule = 16;
 constexpr std::size_t s_RoomInFront = sizeof(std::uint32_t);
+constexpr std::size_t s_LargestRoom = std::numeric_limits<std::uint32_t>::max() / 2;
 constexpr std::size_t s_OutsideHead = 8; ///< keeps the room number of an outside text aligned
 
-std::size_t innerBytes(std::size_t room)
+constexpr std::size_t innerBytes(std::size_t room)
 {
     return sizeof(LmStringBuffer) + s_RoomInFront + room + 1;
 }
@@ -53,6 +54,32 @@ Undying s_Empty;
 
 LmStringBuffer* const LmStringBuffer::sm_pEmpty = &s_Empty.empty.m_Buffer;
 
+inline char* LmStringBuffer::sInnerText(void* block) noexcept
+{
+    return static_cast<char*>(block) + sizeof(LmStringBuffer) + s_RoomInFront;
+}
+
+inline LmStringBuffer::Room& LmStringBuffer::sRoom(char* text) noexcept
+{
+    return *reinterpret_cast<Room*>(text - s_RoomInFront);
+}
+
+inline LmStringBuffer::LmStringBuffer(Room room) noexcept : m_Text(sInnerText(this))
+{
+    sRoom(m_Text) = room;
+}
+
+/// A buffer with room for a text of that length, its block filled up to a multiple of the granule.
+inline LmStringBuffer* LmStringBuffer::sMake(std::size_t room)
+{
+    const std::size_t rounded = ((innerBytes(room) + s_Granule - 1) & ~(s_Granule - 1)) - innerBytes(0);
+    if (__builtin_expect(rounded > s_LargestRoom, 0))
+    {
+        throw std::bad_alloc();
+    }
+    return new (static_cast<Room>(rounded)) LmStringBuffer(static_cast<Room>(rounded));
+}
+
 LmStringBuffer* LmStringBuffer::sCreate(const char* text, unsigned int length, unsigned int capacity)
 {
     const std::string_view whole =
@@ -79,22 +106,6 @@ LmStringBuffer* LmStringBuffer::sCreateImmortal(std::string_view text)
     return new (block) LmStringBuffer(LmReferenceCount::Immortal(), inner, room);
 }
 
-LmStringBuffer* LmStringBuffer::sMake(std::size_t room)
-{
-    const std::size_t blockBytes = (innerBytes(room) + s_Granule - 1) / s_Granule * s_Granule;
-    const std::size_t roundedRoom = room + (blockBytes - innerBytes(room));
-    if (roundedRoom > std::numeric_limits<Room>::max() / 2)
-    {
-        throw std::bad_alloc();
-    }
-    return new (static_cast<Room>(roundedRoom)) LmStringBuffer(static_cast<Room>(roundedRoom));
-}
-
-LmStringBuffer::LmStringBuffer(Room room) noexcept : m_Text(sInnerText(this))
-{
-    sRoom(m_Text) = room;
-}
-
 LmStringBuffer::LmStringBuffer(LmReferenceCount::Immortal immortal, char* text, Room length) noexcept
     : LmObject(immortal), m_Length(length), m_Text(text)
 {
@@ -103,6 +114,14 @@ LmStringBuffer::LmStringBuffer(LmReferenceCount::Immortal immortal, char* text, 
 LmStringBuffer::~LmStringBuffer()
 {
     dropOutsideText();
+}
+
+/// The same as `delete`, in one piece.
+void LmStringBuffer::sDestroy(LmStringBuffer* pBuffer) noexcept
+{
+    const std::size_t bytes = innerBytes(sRoom(sInnerText(pBuffer)));
+    pBuffer->LmStringBuffer::~LmStringBuffer();
+    ThreadHeap::deallocate(pBuffer, bytes);
 }
 
 void* LmStringBuffer::operator new(std::size_t, Room room)
@@ -118,16 +137,6 @@ void LmStringBuffer::operator delete(void* block, Room room) noexcept
 void LmStringBuffer::operator delete(void* block) noexcept
 {
     ThreadHeap::deallocate(block, innerBytes(sRoom(sInnerText(block))));
-}
-
-char* LmStringBuffer::sInnerText(void* block) noexcept
-{
-    return static_cast<char*>(block) + sizeof(LmStringBuffer) + s_RoomInFront;
-}
-
-LmStringBuffer::Room& LmStringBuffer::sRoom(char* text) noexcept
-{
-    return *reinterpret_cast<Room*>(text - s_RoomInFront);
 }
 
 bool LmStringBuffer::isTextOutside() const noexcept
@@ -162,7 +171,7 @@ void LmStringBuffer::growTo(std::size_t length)
     {
         return;
     }
-    if (length > std::numeric_limits<Room>::max() / 2)
+    if (length > s_LargestRoom)
     {
         throw std::bad_alloc();
     }

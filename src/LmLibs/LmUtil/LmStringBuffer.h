@@ -64,7 +64,7 @@ public:
         const unsigned long count = LmObject::Release(false);
         if (count == 0 && destroyAtZero)
         {
-            delete this;
+            sDestroy(this);
         }
         return count;
     }
@@ -91,6 +91,7 @@ private:
     static void operator delete(void*, void*) noexcept {}
 
     static LmStringBuffer* sMake(std::size_t room);
+    static void sDestroy(LmStringBuffer* pBuffer) noexcept;
     static char* sInnerText(void* block) noexcept;
     static Room& sRoom(char* text) noexcept;
 

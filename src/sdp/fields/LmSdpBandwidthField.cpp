@@ -2,6 +2,7 @@
 
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmLine.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 
 LmSdpBandwidthField::LmSdpBandwidthField() : LmSdpField("b") {}
@@ -46,7 +47,7 @@ void LmSdpBandwidthField::parse(LmInputStream& in)
         LmSdpParseError::sThrow(invalid);
     }
     // With nothing in front of the colon, the type is the whole line.
-    m_Type = LmString(lmSubstr(line.view(), 0, colon));
+    m_Type = lmSdpText(lmSubstr(line.view(), 0, colon));
     setChangedFlag();
     takeAmount(lmUpToNul(line.view().substr(colon + 1)));
 }

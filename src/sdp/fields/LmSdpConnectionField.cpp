@@ -5,6 +5,7 @@
 #include "LmLibs/LmUtil/LmLine.h"
 #include "core/LogStatement.h"
 #include "core/TraceScope.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 
 namespace
@@ -66,12 +67,12 @@ void LmSdpConnectionField::parse(LmInputStream& in)
     lmRefuseEmptyLine(in, "LmSdpConnectionField::parse() Incomplete Connection Field");
     const LmLine wholeLine(in);
     const std::string_view line = wholeLine.view();
-    const std::size_t firstBlank = line.find(' ');
+    const std::size_t firstBlank = lmFindByte(line, ' ');
     if (firstBlank == s_None)
     {
         fail(m_NetworkType, "LmSdpConnectionField::parse() Incomplete AddressType Field");
     }
-    m_NetworkType = LmString(cut(line, 0, firstBlank));
+    m_NetworkType = lmSdpText(cut(line, 0, firstBlank));
     setChangedFlag();
 
     const std::size_t secondBlank = line.find(' ', firstBlank + 1);
@@ -79,7 +80,7 @@ void LmSdpConnectionField::parse(LmInputStream& in)
     {
         fail(m_AddressType, "LmSdpConnectionField::parse() Incomplete Address Field");
     }
-    m_AddressType = LmString(lmUpToNul(cut(line, firstBlank + 1, secondBlank)));
+    m_AddressType = lmSdpText(lmUpToNul(cut(line, firstBlank + 1, secondBlank)));
 
     const std::string_view address = line.substr(secondBlank + 1);
     if (!isAddress(address))

@@ -1,5 +1,6 @@
 #include "sdp/fields/LmSdpOriginField.h"
 
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 
 LmSdpOriginField::LmSdpOriginField() : LmSdpField("o") {}
@@ -43,7 +44,10 @@ void LmSdpOriginField::setAddress(const char* text)
 
 void LmSdpOriginField::parse(LmInputStream& in)
 {
-    in >> m_Username >> m_SessionId >> m_SessionVersion >> m_NetworkType >> m_AddressType >> m_Address;
+    for (LmString* pValue : {&m_Username, &m_SessionId, &m_SessionVersion, &m_NetworkType, &m_AddressType, &m_Address})
+    {
+        *pValue = lmSdpWord(in);
+    }
     LmStreamTokenizer::sDiscardWhite(in);
 }
 

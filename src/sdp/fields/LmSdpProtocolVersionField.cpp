@@ -2,6 +2,7 @@
 
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmLine.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 
 #include <algorithm>
@@ -27,7 +28,7 @@ void LmSdpProtocolVersionField::parse(LmInputStream& in)
     {
         LmSdpParseError::sThrow("LmSdpProtocolVersionField::parse()Invalid character in Sdp Protocol Version Field");
     }
-    m_ProtocolVersion = LmString(line.view());
+    m_ProtocolVersion = lmSdpText(line.view());
 }
 
 void LmSdpProtocolVersionField::serialize(LmOutputStream& out) const

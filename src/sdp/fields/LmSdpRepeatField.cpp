@@ -2,6 +2,7 @@
 
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmLine.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 #include "sdp/frame/LmSdpWords.h"
 
@@ -43,7 +44,8 @@ void LmSdpRepeatField::addOffsets(const char* text)
 void LmSdpRepeatField::parse(LmInputStream& in)
 {
     lmRefuseEmptyLine(in, "LmSdpRepeatField::parse Incomplete Repeat Field");
-    in >> m_RepeatInterval >> m_ActiveDuration;
+    m_RepeatInterval = lmSdpWord(in);
+    m_ActiveDuration = lmSdpWord(in);
     const LmLine offsets(in);
     m_Offsets = lmWords(lmUpToNul(offsets.view()));
     setChangedFlag();

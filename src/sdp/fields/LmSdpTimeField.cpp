@@ -2,6 +2,7 @@
 
 #include "LmLibs/LmUtil/LmStreamCursor.h"
 #include "core/TraceScope.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 
 #include <array>
@@ -31,7 +32,7 @@ LmString takeTime(Cursor& cursor)
         digits[count] = static_cast<char>(next);
         ++count;
     }
-    return LmString(std::string_view(digits.data(), count));
+    return lmSdpText(std::string_view(digits.data(), count));
 }
 
 template <typename Cursor>

@@ -5,7 +5,7 @@
 #include "core/Assertion.h"
 #include "core/TraceScope.h"
 #include "sdp/frame/LmSdpChain.h"
-#include "sdp/frame/LmSdpLetter.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpParseError.h"
 #include "sdp/frame/LmSdpRegistry.h"
 
@@ -27,6 +27,26 @@ struct Letter
     char text[2];
 };
 
+bool isLetter(const char* token)
+{
+    return token != nullptr && token[0] >= 'a' && token[0] <= 'z' && token[1] == '\0';
+}
+
+std::uint32_t bitOf(char letter)
+{
+    return std::uint32_t(1) << (letter - 'a');
+}
+
+std::uint32_t lettersOf(std::string_view fieldTokens)
+{
+    std::uint32_t letters = 0;
+    for (const char letter : fieldTokens)
+    {
+        letters |= letter >= 'a' && letter <= 'z' ? bitOf(letter) : 0;
+    }
+    return letters;
+}
+
 } // namespace
 
 const unsigned int LmSdpDescription::sm_TokenOffset = 'a';
@@ -38,7 +58,7 @@ const std::array<unsigned int, 26> LmSdpDescription::sm_FieldOrder = {
     15, 3, 8, 15, 11, 4, 1, 6, 0, 15, 15, 15, 12};
 
 LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens)
-    : m_Token(lmSdpToken(token)), m_FieldTokens(fieldTokens)
+    : m_Token(lmSdpToken(token)), m_FieldTokens(fieldTokens), m_Letters(lettersOf(m_FieldTokens.view()))
 {
 }
 
@@ -49,6 +69,16 @@ LmSdpDescription::~LmSdpDescription()
 
 bool LmSdpDescription::isFieldInDescription(const char* token)
 {
+    return hasToken(token);
+}
+
+/// Nearly all tokens are single letters, for which no search of a text in a text is needed.
+bool LmSdpDescription::hasToken(const char* token) const
+{
+    if (isLetter(token))
+    {
+        return (m_Letters & bitOf(token[0])) != 0;
+    }
     return m_FieldTokens.indexOf(token, 0) != -1;
 }
 
@@ -60,20 +90,25 @@ LmHandle<LmSdpField> LmSdpDescription::getField(const char* token) const
 
 void LmSdpDescription::addField(const LmHandle<LmSdpField>& hField)
 {
-    LmSdpField* const pField = hField;
-    if (pField == nullptr)
+    if (hField)
     {
-        return;
+        file(LmHandle<LmSdpField>(hField));
     }
-    const unsigned int slot = sGetFieldPosition(pField->getToken());
-    if (slot >= sm_SlotCount || !isFieldInDescription(pField->getToken()))
+}
+
+void LmSdpDescription::file(LmHandle<LmSdpField>&& hField)
+{
+    LmSdpField* const pField = hField;
+    const char* const token = pField->getToken();
+    const unsigned int slot = sGetFieldPosition(token);
+    if (slot >= sm_SlotCount || !hasToken(token))
     {
         LmException::sThrow("field doesn't belong in this description type LmSdpDescription::addField()");
     }
     LmSdpField* const pAddedLast = pField->last();
     if (m_Fields[slot].isNull())
     {
-        m_Fields[slot] = hField;
+        m_Fields[slot] = std::move(hField);
     }
     else
     {
@@ -82,7 +117,7 @@ void LmSdpDescription::addField(const LmHandle<LmSdpField>& hField)
         {
             LmException::sThrow("field is already in this description LmSdpDescription::addField()");
         }
-        pTail->addNext(hField);
+        pTail->m_Next = std::move(hField);
     }
     m_Tails[slot] = pAddedLast;
 }
@@ -116,7 +151,7 @@ void LmSdpDescription::parse(LmInputStream& in)
     const Quorvex::TraceScope trace(s_Logger, "LmSdpDescription::parse");
     do
     {
-        addField(LmSdpField::sConstructFrom(in));
+        file(LmSdpField::sConstructFrom(in));
     } while (isOwnLineNext(in));
 }
 
@@ -192,10 +227,10 @@ bool LmSdpDescription::isBehind(const LmSdpDescription* pDescription) const
 }
 
 /// True when the next line, shown behind any white space, has a letter that belongs here and begins no description.
-bool LmSdpDescription::isOwnLineNext(LmInputStream& in)
+bool LmSdpDescription::isOwnLineNext(LmInputStream& in) const
 {
     const Letter letter(LmStreamTokenizer::sDiscardWhite(in));
-    return !letter.isEndOfInput() && isFieldInDescription(letter.text) &&
+    return !letter.isEndOfInput() && hasToken(letter.text) &&
            (sm_ConstructorMap == nullptr || sm_ConstructorMap->find(letter.text) == nullptr);
 }
 

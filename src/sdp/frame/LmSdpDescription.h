@@ -9,6 +9,7 @@
 #include "sdp/frame/LmSdpField.h"
 
 #include <array>
+#include <cstdint>
 
 template <typename Product>
 class LmSdpRegistry;
@@ -92,7 +93,9 @@ private:
     LmSdpDescription* last();
     bool isBehind(const LmSdpDescription* pDescription) const;
 
-    bool isOwnLineNext(LmInputStream& in);
+    void file(LmHandle<LmSdpField>&& hField);
+    bool isOwnLineNext(LmInputStream& in) const;
+    bool hasToken(const char* token) const;
     static unsigned int sGetFieldPosition(const char* token);
 
     static const unsigned int sm_TokenOffset;
@@ -103,6 +106,9 @@ private:
     LmString m_Token;
     LmString m_FieldTokens;
     LmHandle<LmSdpDescription> m_Next;
+
+    /// The letters a to z among the field tokens, one bit each.
+    std::uint32_t m_Letters;
 
     /// Where the search for a chain's tail begins: a link that was the last one when it was looked for.
     std::array<LmSdpField*, sm_SlotCount> m_Tails{};

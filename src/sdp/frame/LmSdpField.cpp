@@ -5,7 +5,7 @@
 #include "core/LogStatement.h"
 #include "core/TraceScope.h"
 #include "sdp/frame/LmSdpChain.h"
-#include "sdp/frame/LmSdpLetter.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpRegistry.h"
 #include "sdp/frame/LmSdpUnusedField.h"
 
@@ -13,6 +13,26 @@ namespace
 {
 
 Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpField");
+
+using TokenBuffer = char[4];
+
+/// Takes a line's token and the "=" behind it. Nearly every token is one letter, which a window shows at a glance.
+void takeToken(LmInputStream& in, TokenBuffer& token)
+{
+    const char* const next = in.windowBegin();
+    if (in.hasWindow() && in.windowEnd() - next >= 2 && next[0] > ' ' && next[0] != '=' && next[1] == '=')
+    {
+        token[0] = next[0];
+        token[1] = '\0';
+        in.consumeTo(next + 2);
+        return;
+    }
+    if (!LmStreamTokenizer::sGetToken(in, "=", token, sizeof token))
+    {
+        LmException::sThrow("Invalid format generic SDP field in LmSdpField::sConstructFrom()");
+    }
+    in.read();
+}
 
 } // namespace
 
@@ -25,14 +45,11 @@ LmSdpField::~LmSdpField()
 
 LmHandle<LmSdpField> LmSdpField::sConstructFrom(LmInputStream& in)
 {
-    const Quorvex::TraceScope trace(s_Logger, "LmSdpField::sConstructFrom");
-    char tokenBuf[4];
-    if (!LmStreamTokenizer::sGetToken(in, "=", tokenBuf, sizeof tokenBuf))
-    {
-        LmException::sThrow("Invalid format generic SDP field in LmSdpField::sConstructFrom()");
-    }
-    in.read();
-    QUORVEX_LOG(s_Logger, Quorvex::eDebug, "LmSdpField", "tokenBuf=" << tokenBuf << "|");
+    const Quorvex::Logger* const pLogger = s_Logger.listening(Quorvex::eDebug);
+    const Quorvex::TraceScope trace(pLogger, "LmSdpField::sConstructFrom");
+    TokenBuffer tokenBuf;
+    takeToken(in, tokenBuf);
+    QUORVEX_LOG(pLogger, Quorvex::eDebug, "LmSdpField", "tokenBuf=" << tokenBuf << "|");
 
     const Constructor constructor = sm_pConstructorMap == nullptr ? nullptr : sm_pConstructorMap->find(tokenBuf);
     LmHandle<LmSdpField> hField = constructor == nullptr ? nullptr : constructor();
@@ -60,7 +77,7 @@ void LmSdpField::addNext(LmHandle<LmSdpField> hNext)
     last()->m_Next = std::move(hNext);
 }
 
-LmSdpField* LmSdpField::last()
+LmSdpField* LmSdpField::lastInChain()
 {
     LmSdpField* pLast = this;
     while (LmSdpField* const pNext = pLast->m_Next)

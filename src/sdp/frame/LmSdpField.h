@@ -66,7 +66,8 @@ private:
 
     /// Appends at the tail of the chain that begins here.
     void addNext(LmHandle<LmSdpField> hNext);
-    LmSdpField* last();
+    LmSdpField* last() { return m_Next.isNull() ? this : lastInChain(); }
+    LmSdpField* lastInChain();
 
     static LmSdpRegistry<LmSdpField>* sm_pConstructorMap;
 

@@ -1,5 +1,9 @@
 #include "sdp/frame/LmSdpWords.h"
 
+#include "sdp/frame/LmSdpCommonText.h"
+
+#include <algorithm>
+
 namespace
 {
 
@@ -14,16 +18,17 @@ void lmAppendWords(std::vector<LmString>& words, std::string_view text)
     {
         if (blank > start)
         {
-            words.emplace_back(text.substr(start, blank - start));
+            words.push_back(lmSdpText(text.substr(start, blank - start)));
         }
         start = blank + 1;
     }
-    words.emplace_back(text.substr(start));
+    words.push_back(lmSdpText(text.substr(start)));
 }
 
 std::vector<LmString> lmWords(std::string_view text)
 {
     std::vector<LmString> words;
+    words.reserve(1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ' ')));
     lmAppendWords(words, text);
     return words;
 }

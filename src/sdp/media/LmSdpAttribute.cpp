@@ -1,10 +1,12 @@
 #include "sdp/media/LmSdpAttribute.h"
 
+#include <utility>
+
 LmSdpAttribute::LmSdpAttribute() = default;
 
 LmSdpAttribute::LmSdpAttribute(const char* value) : m_Value(value) {}
 
-LmSdpAttribute::LmSdpAttribute(const LmString& value) : m_Value(value) {}
+LmSdpAttribute::LmSdpAttribute(LmString value) : m_Value(std::move(value)) {}
 
 LmSdpAttribute::~LmSdpAttribute() = default;
 

@@ -21,7 +21,7 @@ public:
     explicit LmSdpAttribute(const char* value);
 
     /// Shares the text.
-    explicit LmSdpAttribute(const LmString& value);
+    explicit LmSdpAttribute(LmString value);
     ~LmSdpAttribute() override;
 
     LmSdpAttribute(const LmSdpAttribute&) = delete;

@@ -3,6 +3,7 @@
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmLine.h"
 #include "sdp/crypto/LmSdpCryptoAttribute.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 #include "sdp/media/LmSdpRtpAttribute.h"
 
@@ -12,17 +13,17 @@ namespace
 constexpr const char* s_NoName = "Attempting to create Attribute Field with empty Name field";
 
 /// The value object of the class that the name calls for.
-LmHandle<LmSdpAttribute> makeValue(std::string_view name, const LmString& text)
+LmHandle<LmSdpAttribute> makeValue(std::string_view name, std::string_view text)
 {
     if (name == "rtpmap")
     {
-        return new LmSdpRtpAttribute(text.c_str());
+        return new LmSdpRtpAttribute(text);
     }
     if (name == "crypto")
     {
-        return new LmSdpCryptoAttribute(text.c_str());
+        return new LmSdpCryptoAttribute(LmString(text).c_str());
     }
-    return new LmSdpAttribute(text);
+    return new LmSdpAttribute(LmString(text));
 }
 
 } // namespace
@@ -72,11 +73,11 @@ void LmSdpAttributeField::parse(LmInputStream& in)
 {
     lmRefuseEmptyLine(in, "LmSdpAttributeField::parse Incomplete Attribute Field");
     const LmLine line(in);
-    const std::size_t colon = line.view().find(':');
-    m_Name = LmString(line.view().substr(0, colon));
+    const std::size_t colon = lmFindByte(line.view(), ':');
+    m_Name = lmSdpText(line.view().substr(0, colon));
     if (colon != std::string_view::npos)
     {
-        m_Attribute = makeValue(m_Name.view(), LmString(lmUpToNul(line.view().substr(colon + 1))));
+        m_Attribute = makeValue(m_Name.view(), lmUpToNul(line.view().substr(colon + 1)));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "core/TraceScope.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 #include "sdp/frame/LmSdpWords.h"
 
@@ -126,7 +127,7 @@ void LmSdpMediaField::parse(LmInputStream& in)
     {
         refuseIncomplete();
     }
-    in >> m_MediaType;
+    m_MediaType = lmSdpWord(in);
     takeSeparator(in);
 
     char buffer[256];
@@ -137,7 +138,7 @@ void LmSdpMediaField::parse(LmInputStream& in)
     takePort(buffer);
     takeSeparator(in);
 
-    in >> m_Transport;
+    m_Transport = lmSdpWord(in);
     if (LmStreamTokenizer::sIsEmptyLine(in))
     {
         refuseIncomplete();

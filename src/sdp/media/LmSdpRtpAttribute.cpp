@@ -2,6 +2,7 @@
 
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmLine.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 
 #include <cstdio>
@@ -16,6 +17,12 @@ constexpr std::size_t s_None = std::string_view::npos;
 LmSdpRtpAttribute::LmSdpRtpAttribute(const char* text) : LmSdpAttribute(text)
 {
     lmParseText(*this, text);
+}
+
+LmSdpRtpAttribute::LmSdpRtpAttribute(std::string_view text)
+{
+    const char* const end = lmFindLineEnd(text.data(), text.data() + text.size());
+    read(text.substr(0, static_cast<std::size_t>(end - text.data())));
 }
 
 LmSdpRtpAttribute::~LmSdpRtpAttribute() = default;
@@ -62,9 +69,13 @@ void LmSdpRtpAttribute::setNumberOfChannels(const char* text)
 
 void LmSdpRtpAttribute::parse(LmInputStream& in)
 {
-    const LmLine wholeLine(in);
-    const std::string_view line = wholeLine.view();
-    const std::size_t blank = line.find(' ');
+    const LmLine line(in);
+    read(line.view());
+}
+
+void LmSdpRtpAttribute::read(std::string_view line)
+{
+    const std::size_t blank = lmFindByte(line, ' ');
     if (blank == s_None || blank == 0)
     {
         LmSdpParseError::sThrow("RTP attribute payload type: Space not found or misplaced");
@@ -76,7 +87,7 @@ void LmSdpRtpAttribute::parse(LmInputStream& in)
     {
         LmSdpParseError::sThrow("RTP attribute encoding name: Slash not found or misplaced");
     }
-    change(m_EncodingName, LmString(line.substr(blank + 1, slash - (blank + 1))));
+    change(m_EncodingName, lmSdpText(line.substr(blank + 1, slash - (blank + 1))));
 
     const std::string_view rest = line.substr(slash + 1);
     if (rest.empty())
@@ -93,7 +104,7 @@ void LmSdpRtpAttribute::parse(LmInputStream& in)
     }
     else
     {
-        change(m_EncodingParameters, LmString(third));
+        change(m_EncodingParameters, lmSdpText(third));
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "sdp/media/LmSdpAttribute.h"
 
+#include <string_view>
+
 /// The value of an `a=rtpmap` line: what an RTP payload type stands for (RFC 4566, section 6).
 ///
 ///     <payload type> <encoding name>/<clock rate>[/<encoding parameters>]
@@ -16,6 +18,9 @@ class LMSDP_API LmSdpRtpAttribute : public LmSdpAttribute
 public:
     /// Reads `text`, which stands behind `a=rtpmap:` and needs no line end. A null pointer makes a blank value.
     explicit LmSdpRtpAttribute(const char* text);
+
+    /// The same for a text with a known end, which is not kept.
+    explicit LmSdpRtpAttribute(std::string_view text);
     ~LmSdpRtpAttribute() override;
 
     unsigned int getPayloadType() { return m_PayloadType; }
@@ -54,6 +59,7 @@ public:
 
 private:
     void buildValue() const override;
+    void read(std::string_view line);
     void change(unsigned int& member, unsigned int value);
     void change(unsigned int& member, const char* text);
     void change(LmString& member, const LmString& text);

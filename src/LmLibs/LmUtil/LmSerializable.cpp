@@ -1,3 +1,0 @@
-#include "LmLibs/LmUtil/LmSerializable.h"
-
-LmSerializable::~LmSerializable() = default;
