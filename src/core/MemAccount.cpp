@@ -11,21 +11,24 @@ namespace
 
 std::mutex s_Making;
 
-std::size_t atLeastZero(std::int64_t figure)
-{
-    return figure > 0 ? static_cast<std::size_t>(figure) : 0;
-}
-
 } // namespace
 
 std::atomic<MemAccount*> MemAccount::sm_First{nullptr};
 
+void MemAccount::Figures::addTo(Figures& sum) const
+{
+    add(sum.m_Taken, m_Taken.load(std::memory_order_relaxed));
+    add(sum.m_BytesTaken, m_BytesTaken.load(std::memory_order_relaxed));
+    add(sum.m_GivenBack, m_GivenBack.load(std::memory_order_relaxed));
+    add(sum.m_BytesGivenBack, m_BytesGivenBack.load(std::memory_order_relaxed));
+}
+
 MemAccount::Usage MemAccount::Figures::usage() const
 {
     Usage usage;
-    usage.liveObjects = atLeastZero(m_Objects.load(std::memory_order_relaxed));
-    usage.liveBytes = atLeastZero(m_Bytes.load(std::memory_order_relaxed));
-    usage.totalAllocations = atLeastZero(m_Total.load(std::memory_order_relaxed));
+    usage.totalAllocations = m_Taken.load(std::memory_order_relaxed);
+    usage.liveObjects = usage.totalAllocations - m_GivenBack.load(std::memory_order_relaxed);
+    usage.liveBytes = m_BytesTaken.load(std::memory_order_relaxed) - m_BytesGivenBack.load(std::memory_order_relaxed);
     return usage;
 }
 

@@ -27,30 +27,33 @@ public:
     class Figures
     {
     public:
-        void add(std::int64_t objects, std::int64_t bytes, std::int64_t total)
+        void take(std::uint64_t bytes)
         {
-            add(m_Objects, objects);
-            add(m_Bytes, bytes);
-            add(m_Total, total);
+            add(m_Taken, 1);
+            add(m_BytesTaken, bytes);
         }
 
-        void addTo(Figures& sum) const
+        void giveBack(std::uint64_t bytes)
         {
-            sum.add(m_Objects.load(std::memory_order_relaxed), m_Bytes.load(std::memory_order_relaxed),
-                    m_Total.load(std::memory_order_relaxed));
+            add(m_GivenBack, 1);
+            add(m_BytesGivenBack, bytes);
         }
 
+        void addTo(Figures& sum) const;
         Usage usage() const;
 
     private:
-        static void add(std::atomic<std::int64_t>& figure, std::int64_t by)
+        using Figure = std::atomic<std::uint64_t>;
+
+        static void add(Figure& figure, std::uint64_t by)
         {
             figure.store(figure.load(std::memory_order_relaxed) + by, std::memory_order_relaxed);
         }
 
-        std::atomic<std::int64_t> m_Objects{0};
-        std::atomic<std::int64_t> m_Bytes{0};
-        std::atomic<std::int64_t> m_Total{0};
+        Figure m_Taken{0};
+        Figure m_BytesTaken{0};
+        Figure m_GivenBack{0};
+        Figure m_BytesGivenBack{0};
     };
 
     /// The account of that name, made at first use; it lives as long as the process. Safe from several threads.

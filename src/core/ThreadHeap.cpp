@@ -233,25 +233,21 @@ ThreadHeap::Heap* ThreadHeap::sMakeHeap()
     return st_Heap;
 }
 
-void* ThreadHeap::sAllocateSlowly(std::size_t size)
+__attribute__((noinline, cold)) void* ThreadHeap::sAllocateSlowly(std::size_t size)
 {
     Heap* const heap = st_Heap != nullptr ? st_Heap : sMakeHeap();
-#ifndef QUORVEX_SYSTEM_BLOCKS
-    if (size <= sm_LargestBlock)
+    if (isSmall(size))
     {
         const std::size_t sizeClass = classOf(size);
         return heap != nullptr ? heap->supplies[sizeClass].refill(sizeClass, heap->current[sizeClass])
                                : ::operator new(bytesOf(sizeClass));
     }
-#endif
-    static_cast<void>(heap);
     return ::operator new(size);
 }
 
-void ThreadHeap::sDeallocateSlowly(void* block, std::size_t size) noexcept
+__attribute__((noinline, cold)) void ThreadHeap::sDeallocateSlowly(void* block, std::size_t size) noexcept
 {
-#ifndef QUORVEX_SYSTEM_BLOCKS
-    if (size <= sm_LargestBlock)
+    if (isSmall(size))
     {
         const std::size_t sizeClass = classOf(size);
         auto* const freed = static_cast<Block*>(block);
@@ -265,16 +261,15 @@ void ThreadHeap::sDeallocateSlowly(void* block, std::size_t size) noexcept
         immortal<Depot>().put(sizeClass, freed);
         return;
     }
-#endif
-    static_cast<void>(size);
     ::operator delete(block);
 }
 
-void ThreadHeap::sCountSlowly(MemAccount& account, std::int64_t objects, std::int64_t bytes,
-                              std::int64_t total) noexcept
+__attribute__((noinline, cold)) void ThreadHeap::sCountSlowly(MemAccount& account,
+                                                              void (MemAccount::Figures::*add)(std::uint64_t),
+                                                              std::size_t bytes) noexcept
 {
     const std::lock_guard<std::mutex> lock(immortal<Heaps>().mutex);
-    account.m_Ended.add(objects, bytes, total);
+    (account.m_Ended.*add)(bytes);
 }
 
 MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
@@ -304,7 +299,7 @@ void* MemAccount::allocate(std::size_t size)
     }
     auto* const header = static_cast<Header*>(ThreadHeap::allocate(size + sizeof(Header)));
     header->size = size;
-    ThreadHeap::count(*this, 1, static_cast<std::int64_t>(size), 1);
+    ThreadHeap::countTaken(*this, size);
     return header + 1;
 }
 
@@ -313,7 +308,7 @@ void MemAccount::deallocate(void* block) noexcept
     if (block != nullptr)
     {
         Header* const header = static_cast<Header*>(block) - 1;
-        ThreadHeap::count(*this, -1, -static_cast<std::int64_t>(header->size), 0);
+        ThreadHeap::countGivenBack(*this, header->size);
         ThreadHeap::deallocate(header, header->size + sizeof(Header));
     }
 }

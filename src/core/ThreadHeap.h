@@ -7,11 +7,14 @@
 #include <cstdint>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define QUORVEX_SYSTEM_BLOCKS 1
+#define QUORVEX_SANITIZED 1
 #elif defined(__has_feature)
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || __has_feature(memory_sanitizer)
-#define QUORVEX_SYSTEM_BLOCKS 1
+#define QUORVEX_SANITIZED 1
 #endif
+#endif
+#ifndef QUORVEX_SANITIZED
+#define QUORVEX_SANITIZED 0
 #endif
 
 namespace Quorvex
@@ -33,9 +36,8 @@ public:
     /// @throws std::bad_alloc
     static void* allocate(std::size_t size)
     {
-#ifndef QUORVEX_SYSTEM_BLOCKS
         Heap* const heap = st_Heap;
-        if (__builtin_expect(size <= sm_LargestBlock && heap != nullptr, 1))
+        if (__builtin_expect(isSmall(size) && heap != nullptr, 1))
         {
             List& list = heap->current[classOf(size)];
             if (__builtin_expect(list.head != nullptr, 1))
@@ -43,16 +45,14 @@ public:
                 return list.pop();
             }
         }
-#endif
         return sAllocateSlowly(size);
     }
 
     /// `size` is the number that `block` was taken with.
     static void deallocate(void* block, std::size_t size) noexcept
     {
-#ifndef QUORVEX_SYSTEM_BLOCKS
         Heap* const heap = st_Heap;
-        if (__builtin_expect(size <= sm_LargestBlock && heap != nullptr, 1))
+        if (__builtin_expect(isSmall(size) && heap != nullptr, 1))
         {
             List& list = heap->current[classOf(size)];
             if (__builtin_expect(list.room != 0, 1))
@@ -61,28 +61,36 @@ public:
                 return;
             }
         }
-#endif
         sDeallocateSlowly(block, size);
     }
 
-    /// Adds to the figures of an account.
-    static void count(MemAccount& account, std::int64_t objects, std::int64_t bytes, std::int64_t total) noexcept
+    /// Counts a block that an account has taken, or has given back.
+    static void countTaken(MemAccount& account, std::size_t bytes) noexcept
     {
-        Heap* const heap = st_Heap;
-        if (__builtin_expect(heap != nullptr && account.m_Index < sm_OwnAccounts, 1))
+        if (MemAccount::Figures* const figures = ownFigures(account))
         {
-            heap->figures[account.m_Index].add(objects, bytes, total);
+            figures->take(bytes);
             return;
         }
-        sCountSlowly(account, objects, bytes, total);
+        sCountSlowly(account, &MemAccount::Figures::take, bytes);
+    }
+    static void countGivenBack(MemAccount& account, std::size_t bytes) noexcept
+    {
+        if (MemAccount::Figures* const figures = ownFigures(account))
+        {
+            figures->giveBack(bytes);
+            return;
+        }
+        sCountSlowly(account, &MemAccount::Figures::giveBack, bytes);
     }
 
     /// What all threads together have counted on an account.
     static MemAccount::Usage usage(const MemAccount& account);
 
 private:
+    static constexpr bool sm_SystemBlocks = QUORVEX_SANITIZED != 0;
     static constexpr std::size_t sm_Granule = 16;
-    static constexpr std::size_t sm_Classes = sm_LargestBlock / sm_Granule;
+    static constexpr std::size_t sm_Classes = sm_LargestBlock / sm_Granule + 1;
 
     /// Accounts beyond these are counted under a lock.
     static constexpr unsigned int sm_OwnAccounts = 32;
@@ -133,19 +141,27 @@ private:
         Heap* next = nullptr;
     };
 
-    static constexpr std::size_t classOf(std::size_t size)
+    /// This thread's figures of an account; null where it keeps none of its own.
+    static MemAccount::Figures* ownFigures(const MemAccount& account)
     {
-        return size == 0 ? 0 : (size - 1) / sm_Granule;
+        Heap* const heap = st_Heap;
+        const bool kept = heap != nullptr && account.m_Index < sm_OwnAccounts;
+        return __builtin_expect(kept, 1) ? &heap->figures[account.m_Index] : nullptr;
     }
+
+    static constexpr bool isSmall(std::size_t size) { return !sm_SystemBlocks && size <= sm_LargestBlock; }
+    static constexpr std::size_t classOf(std::size_t size) { return (size + sm_Granule - 1) / sm_Granule; }
+
+    /// A block of no size takes as much as one of the smallest.
     static constexpr std::size_t bytesOf(std::size_t sizeClass)
     {
-        return (sizeClass + 1) * sm_Granule;
+        return (sizeClass == 0 ? 1 : sizeClass) * sm_Granule;
     }
 
     static void* sAllocateSlowly(std::size_t size);
     static void sDeallocateSlowly(void* block, std::size_t size) noexcept;
-    static void sCountSlowly(MemAccount& account, std::int64_t objects, std::int64_t bytes,
-                             std::int64_t total) noexcept;
+    static void sCountSlowly(MemAccount& account, void (MemAccount::Figures::*add)(std::uint64_t),
+                             std::size_t bytes) noexcept;
     static Heap* sMakeHeap();
 
     /// The calling thread's heap; null before its first block and after the thread's end. `__thread`, since it never

@@ -5,6 +5,13 @@
 namespace Quorvex
 {
 
+bool TraceScope::isWanted(const Logger& logger)
+{
+    const LogLevel level = logger.getLogLevel();
+    const bool wanted = level == eNotSet ? logger.isEnabledFor(eTrace) : level <= eTrace;
+    return wanted && logger.isReady() != 0;
+}
+
 void TraceScope::ctorLog() const
 {
     m_pLogger->log(eTrace, std::string("Entering ") + m_Name, m_Name, 0);

@@ -37,16 +37,8 @@ protected:
     void dtorLog() const;
 
 private:
-    static bool isTraced(const Logger* pLogger)
-    {
-        if (pLogger == nullptr)
-        {
-            return false;
-        }
-        const LogLevel level = pLogger->getLogLevel();
-        const bool wanted = level == eNotSet ? pLogger->isEnabledFor(eTrace) : level <= eTrace;
-        return wanted && pLogger->isReady() != 0;
-    }
+    static bool isTraced(const Logger* pLogger) { return pLogger != nullptr && isWanted(*pLogger); }
+    static bool isWanted(const Logger& logger);
 
     const Logger* m_pLogger;
     const char* m_Name;

@@ -2,6 +2,14 @@
 
 #include <limits>
 
+namespace
+{
+
+/// Numbers of fewer digits are never out of range.
+constexpr std::size_t s_SafeDigits = std::numeric_limits<long>::digits10;
+
+} // namespace
+
 long lmAtol(std::string_view text)
 {
     constexpr long lowest = std::numeric_limits<long>::min();
@@ -13,6 +21,17 @@ long lmAtol(std::string_view text)
     if (!text.empty() && (negative || text.front() == '+'))
     {
         text.remove_prefix(1);
+    }
+    long small = 0;
+    std::size_t digits = 0;
+    while (digits < text.size() && digits < s_SafeDigits && lmIsDigit(text[digits]))
+    {
+        small = small * 10 + (text[digits] - '0');
+        ++digits;
+    }
+    if (digits < s_SafeDigits)
+    {
+        return negative ? -small : small;
     }
     // Counted downwards, where there is room for one number more.
     long number = 0;

@@ -66,6 +66,33 @@ inline const char* lmFindLineEnd(const char* text, const char* end)
     return lmFindEither(text, end, '\r', '\n');
 }
 
+/// The first white space in a range, or its end.
+inline const char* lmFindSpace(const char* text, const char* end)
+{
+#ifdef __SSE2__
+    const __m128i blanks = _mm_set1_epi8(' ');
+    for (; end - text >= 16; text += 16)
+    {
+        // Control characters that are no white space show here as well, so each hit is looked at once more.
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+        const __m128i hits = _mm_cmpeq_epi8(_mm_min_epu8(bytes, blanks), bytes);
+        for (auto mask = static_cast<unsigned int>(_mm_movemask_epi8(hits)); mask != 0; mask &= mask - 1)
+        {
+            const char* const hit = text + __builtin_ctz(mask);
+            if (lmIsSpace(*hit))
+            {
+                return hit;
+            }
+        }
+    }
+#endif
+    while (text != end && !lmIsSpace(*text))
+    {
+        ++text;
+    }
+    return text;
+}
+
 /// The place of the first such byte in the text, or npos.
 inline std::size_t lmFindByte(std::string_view text, char byte)
 {

@@ -41,14 +41,17 @@ public:
         return {begin, static_cast<std::size_t>(m_Next - begin)};
     }
 
-    std::string_view takeUntilLineEnd()
-    {
-        const char* const begin = m_Next;
-        m_Next = lmFindLineEnd(m_Next, m_End);
-        return {begin, static_cast<std::size_t>(m_Next - begin)};
-    }
+    std::string_view takeUntilLineEnd() { return takeTo(lmFindLineEnd(m_Next, m_End)); }
+    std::string_view takeUntilSpace() { return takeTo(lmFindSpace(m_Next, m_End)); }
 
 private:
+    std::string_view takeTo(const char* position)
+    {
+        const char* const begin = m_Next;
+        m_Next = position;
+        return {begin, static_cast<std::size_t>(position - begin)};
+    }
+
     LmInputStream& m_In;
     const char* m_Next;
     const char* const m_End;
@@ -100,6 +103,10 @@ public:
     {
         return takeUntil([](int c) { return lmIsLineEnd(c); });
     }
+    std::string_view takeUntilSpace()
+    {
+        return takeUntil([](int c) { return lmIsSpace(c); });
+    }
 
 private:
     LmInputStream& m_In;
@@ -143,5 +150,5 @@ template <typename Cursor>
 std::string_view lmTakeWord(Cursor& cursor)
 {
     cursor.skipWhile([](int c) { return lmIsSpace(c) && !lmIsLineEnd(c); });
-    return cursor.takeUntil([](int c) { return lmIsSpace(c); });
+    return cursor.takeUntilSpace();
 }

@@ -11,6 +11,25 @@ namespace
 
 constexpr std::uint64_t s_NoNumber = 0xFFFFFFFF;
 
+/// A set of bytes, asked for each byte of a token.
+class ByteSet
+{
+public:
+    explicit ByteSet(const char* bytes)
+    {
+        for (; *bytes != '\0'; ++bytes)
+        {
+            const auto byte = static_cast<unsigned char>(*bytes);
+            m_Bits[byte / 64] |= std::uint64_t(1) << (byte % 64);
+        }
+    }
+
+    bool has(int byte) const { return (m_Bits[byte / 64] >> (byte % 64) & 1) != 0; }
+
+private:
+    std::uint64_t m_Bits[4] = {};
+};
+
 /// Copies the text with a NUL behind it; where it does not fit, `buffer` gets the empty text.
 bool store(std::string_view text, char* buffer, unsigned int size)
 {
@@ -43,11 +62,11 @@ bool LmStreamTokenizer::sGetLine(LmInputStream& in, char* buffer, unsigned int s
 
 bool LmStreamTokenizer::sGetToken(LmInputStream& in, const char* delimiters, char* buffer, unsigned int size)
 {
-    const std::string_view stops(delimiters);
-    return lmWithCursor(in, [stops, buffer, size](auto& cursor) {
+    const ByteSet stops(delimiters);
+    return lmWithCursor(in, [&stops, buffer, size](auto& cursor) {
         cursor.skipWhile(lmIsSpace);
         const bool atEnd = cursor.peek() == -1;
-        const auto isStop = [stops](int c) { return stops.find(static_cast<char>(c)) != std::string_view::npos; };
+        const auto isStop = [&stops](int c) { return stops.has(c); };
         return store(cursor.takeUntil(isStop), buffer, size) && !atEnd;
     });
 }

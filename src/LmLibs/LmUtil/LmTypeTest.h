@@ -63,12 +63,12 @@ private:
         return false;
     }
 
-    static constexpr std::size_t sm_Slots = 16;
+    static constexpr std::size_t sm_Slots = 64;
 
     static std::size_t slotOf(const std::type_info& type) noexcept
     {
         const auto address = reinterpret_cast<std::uintptr_t>(&type);
-        return ((address >> 3) ^ (address >> 7)) % sm_Slots;
+        return ((address >> 3) ^ (address >> 9)) % sm_Slots;
     }
 
     static inline std::array<std::atomic<const std::type_info*>, sm_Slots> sm_Known{};

@@ -4,14 +4,16 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
 
 namespace
 {
 
 constexpr const char* s_Words[] = {
-    // letters, version, names that say nothing
-    "a", "b", "c", "e", "i", "k", "m", "o", "p", "r", "s", "t", "u", "v", "z", "-",
+    // letters, a name that says nothing, and the letters of each kind of description
+    "a", "b", "c", "e", "i", "k", "m", "o", "p", "r", "s", "t", "u", "v", "z", "-", "vosiuepcbzka", "tr", "micbka",
     // network and address types, bandwidth types
     "IN", "IP4", "IP6", "0.0.0.0", "127.0.0.1", "AS", "CT", "TIAS", "RS", "RR",
     // media words and transports
@@ -53,12 +55,16 @@ public:
 
     LmStringBuffer* find(std::string_view text) const
     {
+        if (text.size() == 1)
+        {
+            return findLetter(text.front());
+        }
         if (text.size() > s_LongestWord)
         {
             return nullptr;
         }
         std::size_t slot = slotOf(text);
-        while (m_Texts[slot] != nullptr && m_Texts[slot]->view() != text)
+        while (m_Texts[slot] != nullptr && !isSame(m_Texts[slot]->view(), text))
         {
             slot = (slot + 1) % sm_Slots;
         }
@@ -70,26 +76,67 @@ public:
 private:
     static constexpr std::size_t sm_Slots = 1024;
 
-    /// Every text that is looked up has at least one byte.
+    template <typename Word>
+    static Word load(const char* text)
+    {
+        Word word;
+        std::memcpy(&word, text, sizeof word);
+        return word;
+    }
+
+    /// Compares two pieces, which overlap where the text is not twice as long as a piece.
+    template <typename Word>
+    static bool isSameAtEnds(const char* left, const char* right, std::size_t size)
+    {
+        const std::size_t last = size - sizeof(Word);
+        return load<Word>(left) == load<Word>(right) && load<Word>(left + last) == load<Word>(right + last);
+    }
+
+    /// In place, as the words are too short for a function of the C library to pay.
+    static bool isSame(std::string_view left, std::string_view right)
+    {
+        const std::size_t size = left.size();
+        if (right.size() != size)
+        {
+            return false;
+        }
+        if (size > 2 * sizeof(std::uint64_t))
+        {
+            return left == right;
+        }
+        if (size >= sizeof(std::uint64_t))
+        {
+            return isSameAtEnds<std::uint64_t>(left.data(), right.data(), size);
+        }
+        if (size >= sizeof(std::uint32_t))
+        {
+            return isSameAtEnds<std::uint32_t>(left.data(), right.data(), size);
+        }
+        return isSameAtEnds<std::uint16_t>(left.data(), right.data(), size);
+    }
+
+    /// Every text that is looked up here has two bytes or more.
     static std::size_t slotOf(std::string_view text)
     {
-        const auto byte = [text](std::size_t place) { return static_cast<unsigned char>(text[place]); };
         const std::size_t size = text.size();
-        return (byte(0) * 5U + byte(size / 2) * 37U + byte(size - 1) * 131U + size * 71U) % sm_Slots;
+        const auto front = load<std::uint16_t>(text.data());
+        const auto back = load<std::uint16_t>(text.data() + size - sizeof(std::uint16_t));
+        return (front * 5U + back * 37U + size * 71U) % sm_Slots;
     }
 
     void enter(std::string_view text)
     {
+        if (text.size() == 1)
+        {
+            m_Letters[static_cast<unsigned char>(text.front())] = LmStringBuffer::sCreateImmortal(text);
+            return;
+        }
         std::size_t slot = slotOf(text);
         while (m_Texts[slot] != nullptr)
         {
             slot = (slot + 1) % sm_Slots;
         }
         m_Texts[slot] = LmStringBuffer::sCreateImmortal(text);
-        if (text.size() == 1)
-        {
-            m_Letters[static_cast<unsigned char>(text.front())] = m_Texts[slot];
-        }
     }
 
     std::array<LmStringBuffer*, sm_Slots> m_Texts{};

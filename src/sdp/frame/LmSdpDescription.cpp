@@ -58,7 +58,9 @@ const std::array<unsigned int, 26> LmSdpDescription::sm_FieldOrder = {
     15, 3, 8, 15, 11, 4, 1, 6, 0, 15, 15, 15, 12};
 
 LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens)
-    : m_Token(lmSdpToken(token)), m_FieldTokens(fieldTokens), m_Letters(lettersOf(m_FieldTokens.view()))
+    : m_Token(lmSdpToken(token))
+    , m_FieldTokens(lmSdpText(lmViewOf(fieldTokens)))
+    , m_Letters(lettersOf(m_FieldTokens.view()))
 {
 }
 

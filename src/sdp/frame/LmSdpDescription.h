@@ -111,6 +111,6 @@ private:
     std::uint32_t m_Letters;
 
     /// Where the search for a chain's tail begins: a link that was the last one when it was looked for.
-    std::array<LmSdpField*, sm_SlotCount> m_Tails{};
+    std::array<LmSdpField*, sm_SlotCount> m_Tails; // set with the slot
     LmSdpDescription* m_Tail = this;
 };
