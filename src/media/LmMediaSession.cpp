@@ -109,7 +109,7 @@ void LmMediaSession::setLocalBody()
 {
     const std::string id = idOfNow();
     const std::string local = LmInetAddress::sGetLocalHost(s_AddressFlags).getHostAddress();
-    m_Body = LmString(LmStringBuffer::sCreate(std::string_view("v=0\r\no="), s_BodyCapacity));
+    m_Body = LmString(*LmStringBuffer::sCreate(std::string_view("v=0\r\no="), s_BodyCapacity));
     m_Body.append(std::string_view("user " + id + " " + id + " IN IP4 " + local));
     m_Body.append(std::string_view("\r\ns=SDP Media Session\r\ne=user@" + local));
     m_Body.append(std::string_view("\r\nt=" + id + " 0\r\nc=IN IP4 " + local + "\r\n"));

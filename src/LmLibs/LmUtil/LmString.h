@@ -15,24 +15,27 @@ class LmString : private LmHandle<LmStringBuffer>
 {
 public:
     /// The empty text.
-    LmString() noexcept : LmString(LmStringBuffer::sEmpty()) {}
+    LmString() noexcept : LmString(*LmStringBuffer::sEmpty()) {}
 
     /// A copy of the text. @throws std::bad_alloc
     LmString(const char* text) : LmString(lmViewOf(text)) {}
 
     /// A copy of the bytes, NUL bytes included. @throws std::bad_alloc
     explicit LmString(std::string_view text)
-        : LmString(text.empty() ? LmStringBuffer::sEmpty() : LmStringBuffer::sCreate(text))
+        : LmString(text.empty() ? *LmStringBuffer::sEmpty() : *LmStringBuffer::sCreate(text))
     {
     }
 
     /// Shares the buffer. An empty handle gives a text without a buffer, whose `c_str` is a null pointer.
-    explicit LmString(const LmHandle<LmStringBuffer>& hBuffer) noexcept : LmString(sStored(hBuffer)) {}
+    explicit LmString(const LmHandle<LmStringBuffer>& hBuffer) noexcept
+        : LmHandle(sCounted(static_cast<LmStringBuffer*>(hBuffer.object())), Adopt())
+    {
+    }
 
     /// Shares the buffer, or owns one that is new.
-    explicit LmString(LmStringBuffer* pBuffer) noexcept : LmHandle(sCounted(pBuffer), Adopt()) {}
+    explicit LmString(LmStringBuffer& buffer) noexcept : LmHandle(sCounted(&buffer), Adopt()) {}
 
-    LmString(const LmString& other) noexcept : LmString(other.buffer()) {}
+    LmString(const LmString& other) noexcept : LmHandle(sCounted(other.buffer()), Adopt()) {}
     LmString(LmString&& other) noexcept : LmHandle(LmStringBuffer::sEmpty(), Adopt()) { swap(other); }
 
     LmString& operator=(const LmString& other) noexcept
@@ -77,7 +80,7 @@ public:
     /// `length` bytes from `start`, cut at the end of the text; a length of 0 means up to the end.
     LmString substr(unsigned int start, unsigned int length) const
     {
-        return buffer() == nullptr ? LmString() : LmString(buffer()->substr(start, length));
+        return buffer() == nullptr ? LmString() : LmString(*buffer()->substr(start, length));
     }
 
     /// The first place of `needle` at or behind `start`, or -1; always -1 for an empty or null needle.
@@ -99,11 +102,6 @@ public:
     void trim() { store(solid()->trim()); }
 
 private:
-    static LmStringBuffer* sStored(const LmHandle<LmStringBuffer>& hBuffer) noexcept
-    {
-        return static_cast<LmStringBuffer*>(hBuffer.object());
-    }
-
     static LmStringBuffer* sCounted(LmStringBuffer* pBuffer) noexcept
     {
         if (pBuffer != nullptr)
@@ -122,7 +120,7 @@ private:
     {
         if (pResult != buffer())
         {
-            LmString result(pResult);
+            LmString result(*pResult);
             swap(result);
         }
     }

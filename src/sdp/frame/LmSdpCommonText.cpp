@@ -156,7 +156,7 @@ LmString lmSdpText(std::string_view text)
         return LmString();
     }
     LmStringBuffer* const pShared = s_CommonTexts.find(text);
-    return pShared != nullptr ? LmString(pShared) : LmString(text);
+    return pShared != nullptr ? LmString(*pShared) : LmString(text);
 }
 
 LmString lmSdpToken(const char* token)
@@ -165,7 +165,7 @@ LmString lmSdpToken(const char* token)
     {
         if (LmStringBuffer* const pShared = s_CommonTexts.findLetter(token[0]))
         {
-            return LmString(pShared);
+            return LmString(*pShared);
         }
     }
     return LmString(token);

@@ -35,7 +35,7 @@ std::vector<LmString> lmWords(std::string_view text)
 
 LmString lmJoinWords(const std::vector<LmString>& words)
 {
-    LmString joined(LmStringBuffer::sCreate(std::string_view(), s_ListCapacity));
+    LmString joined(*LmStringBuffer::sCreate(std::string_view(), s_ListCapacity));
     for (const LmString& word : words)
     {
         if (&word != &words.front())

@@ -2,29 +2,14 @@
 
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmLine.h"
-#include "sdp/crypto/LmSdpCryptoAttribute.h"
 #include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
-#include "sdp/media/LmSdpRtpAttribute.h"
+#include "sdp/media/LmSdpAttributeValue.h"
 
 namespace
 {
 
 constexpr const char* s_NoName = "Attempting to create Attribute Field with empty Name field";
-
-/// The value object of the class that the name calls for.
-LmHandle<LmSdpAttribute> makeValue(std::string_view name, std::string_view text)
-{
-    if (name == "rtpmap")
-    {
-        return new LmSdpRtpAttribute(text);
-    }
-    if (name == "crypto")
-    {
-        return new LmSdpCryptoAttribute(LmString(text).c_str());
-    }
-    return new LmSdpAttribute(LmString(text));
-}
 
 } // namespace
 
@@ -40,7 +25,7 @@ LmSdpAttributeField::LmSdpAttributeField(const char* name, const char* value) : 
     lmRefuseBlank<LmSdpParseError>(m_Name, s_NoName);
     if (value != nullptr)
     {
-        m_Attribute = makeValue(m_Name.view(), value);
+        m_Attribute = lmSdpAttributeValue(m_Name.view(), value);
     }
 }
 
@@ -77,7 +62,7 @@ void LmSdpAttributeField::parse(LmInputStream& in)
     m_Name = lmSdpText(line.view().substr(0, colon));
     if (colon != std::string_view::npos)
     {
-        m_Attribute = makeValue(m_Name.view(), lmUpToNul(line.view().substr(colon + 1)));
+        m_Attribute = lmSdpAttributeValue(m_Name.view(), lmUpToNul(line.view().substr(colon + 1)));
     }
 }
 
