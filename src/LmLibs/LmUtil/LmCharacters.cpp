@@ -22,14 +22,14 @@ long lmAtol(std::string_view text)
     {
         text.remove_prefix(1);
     }
+    const char* digit = text.data();
+    const char* const end = digit + text.size();
     long small = 0;
-    std::size_t digits = 0;
-    while (digits < text.size() && digits < s_SafeDigits && lmIsDigit(text[digits]))
+    for (; digit != end && lmIsDigit(*digit); ++digit)
     {
-        small = small * 10 + (text[digits] - '0');
-        ++digits;
+        small = static_cast<long>(static_cast<unsigned long>(small) * 10 + static_cast<unsigned long>(*digit - '0'));
     }
-    if (digits < s_SafeDigits)
+    if (static_cast<std::size_t>(digit - text.data()) < s_SafeDigits)
     {
         return negative ? -small : small;
     }
@@ -37,8 +37,8 @@ long lmAtol(std::string_view text)
     long number = 0;
     for (; !text.empty() && lmIsDigit(text.front()); text.remove_prefix(1))
     {
-        const long digit = text.front() - '0';
-        number = number < (lowest + digit) / 10 ? lowest : number * 10 - digit;
+        const long value = text.front() - '0';
+        number = number < (lowest + value) / 10 ? lowest : number * 10 - value;
     }
     if (negative)
     {

@@ -113,17 +113,24 @@ private:
     std::string m_Taken;
 };
 
+/// The way of streams without a window, kept out of the way of the other.
+template <typename Operation>
+__attribute__((noinline)) auto lmWithByteCursor(LmInputStream& in, Operation& operation)
+{
+    LmByteCursor cursor(in);
+    return operation(cursor);
+}
+
 /// Calls `operation` with the cursor that fits the stream.
 template <typename Operation>
-auto lmWithCursor(LmInputStream& in, Operation operation)
+inline auto lmWithCursor(LmInputStream& in, Operation operation)
 {
-    if (in.hasWindow())
+    if (__builtin_expect(in.hasWindow(), 1))
     {
         LmWindowCursor cursor(in);
         return operation(cursor);
     }
-    LmByteCursor cursor(in);
-    return operation(cursor);
+    return lmWithByteCursor(in, operation);
 }
 
 /// Takes the rest of a line and consumes its line end: CR LF, a lone LF, a lone CR or the end of input. The view is

@@ -8,6 +8,8 @@
 #include <cstring>
 #include <string>
 
+LmStringBuffer* lmSdpLetters[128] = {};
+
 namespace
 {
 
@@ -57,7 +59,7 @@ public:
     {
         if (text.size() == 1)
         {
-            return findLetter(text.front());
+            return text.front() > 0 ? lmSdpLetters[static_cast<unsigned char>(text.front())] : nullptr;
         }
         if (text.size() > s_LongestWord)
         {
@@ -70,8 +72,6 @@ public:
         }
         return m_Texts[slot];
     }
-
-    LmStringBuffer* findLetter(char letter) const { return m_Letters[static_cast<unsigned char>(letter)]; }
 
 private:
     static constexpr std::size_t sm_Slots = 1024;
@@ -128,7 +128,7 @@ private:
     {
         if (text.size() == 1)
         {
-            m_Letters[static_cast<unsigned char>(text.front())] = LmStringBuffer::sCreateImmortal(text);
+            lmSdpLetters[static_cast<unsigned char>(text.front())] = LmStringBuffer::sCreateImmortal(text);
             return;
         }
         std::size_t slot = slotOf(text);
@@ -140,7 +140,6 @@ private:
     }
 
     std::array<LmStringBuffer*, sm_Slots> m_Texts{};
-    std::array<LmStringBuffer*, 256> m_Letters{};
 };
 
 CommonTexts s_CommonTexts;
@@ -157,18 +156,6 @@ LmString lmSdpText(std::string_view text)
     }
     LmStringBuffer* const pShared = s_CommonTexts.find(text);
     return pShared != nullptr ? LmString(*pShared) : LmString(text);
-}
-
-LmString lmSdpToken(const char* token)
-{
-    if (token != nullptr && token[0] != '\0' && token[1] == '\0')
-    {
-        if (LmStringBuffer* const pShared = s_CommonTexts.findLetter(token[0]))
-        {
-            return LmString(*pShared);
-        }
-    }
-    return LmString(token);
 }
 
 LmString lmSdpWord(LmInputStream& in)

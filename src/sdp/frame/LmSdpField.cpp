@@ -5,7 +5,6 @@
 #include "core/LogStatement.h"
 #include "core/TraceScope.h"
 #include "sdp/frame/LmSdpChain.h"
-#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpRegistry.h"
 #include "sdp/frame/LmSdpUnusedField.h"
 
@@ -35,8 +34,6 @@ void takeToken(LmInputStream& in, TokenBuffer& token)
 }
 
 } // namespace
-
-LmSdpField::LmSdpField(const char* token) : m_Token(lmSdpToken(token)) {}
 
 LmSdpField::~LmSdpField()
 {

@@ -6,6 +6,7 @@
 #include "LmLibs/LmUtil/LmSerializable.h"
 #include "LmLibs/LmUtil/LmString.h"
 #include "sdp/LmSdpExport.h"
+#include "sdp/frame/LmSdpCommonText.h"
 
 template <typename Product>
 class LmSdpRegistry;
@@ -21,7 +22,7 @@ public:
     using Constructor = LmSdpField* (*)();
 
     /// `token` is the line's letter. A null pointer gives an empty token.
-    explicit LmSdpField(const char* token);
+    explicit LmSdpField(const char* token) : m_Token(lmSdpToken(token)) {}
     ~LmSdpField() override;
 
     LmSdpField(const LmSdpField&) = delete;

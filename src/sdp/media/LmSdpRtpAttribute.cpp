@@ -19,10 +19,9 @@ LmSdpRtpAttribute::LmSdpRtpAttribute(const char* text) : LmSdpAttribute(text)
     lmParseText(*this, text);
 }
 
-LmSdpRtpAttribute::LmSdpRtpAttribute(std::string_view text)
+LmSdpRtpAttribute::LmSdpRtpAttribute(std::string_view line)
 {
-    const char* const end = lmFindLineEnd(text.data(), text.data() + text.size());
-    read(text.substr(0, static_cast<std::size_t>(end - text.data())));
+    read(line);
 }
 
 LmSdpRtpAttribute::~LmSdpRtpAttribute() = default;

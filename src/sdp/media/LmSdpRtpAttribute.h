@@ -19,8 +19,8 @@ public:
     /// Reads `text`, which stands behind `a=rtpmap:` and needs no line end. A null pointer makes a blank value.
     explicit LmSdpRtpAttribute(const char* text);
 
-    /// The same for a text with a known end, which is not kept.
-    explicit LmSdpRtpAttribute(std::string_view text);
+    /// The same for one line with a known end, which is not kept.
+    explicit LmSdpRtpAttribute(std::string_view line);
     ~LmSdpRtpAttribute() override;
 
     unsigned int getPayloadType() { return m_PayloadType; }
