@@ -90,7 +90,7 @@ LmStringBuffer* LmStringBuffer::sCreate(const char* text, unsigned int length, u
 LmStringBuffer* LmStringBuffer::sCreate(std::string_view text, unsigned int capacity)
 {
     LmStringBuffer* const pBuffer = sMake(std::max<std::size_t>(text.size(), capacity));
-    std::memcpy(pBuffer->m_Text, text.data(), text.size());
+    text.copy(pBuffer->m_Text, text.size());
     pBuffer->setText(pBuffer->m_Text, text.size());
     return pBuffer;
 }
@@ -101,7 +101,7 @@ LmStringBuffer* LmStringBuffer::sCreateImmortal(std::string_view text)
     void* const block = ::operator new(innerBytes(room));
     char* const inner = sInnerText(block);
     sRoom(inner) = room;
-    std::memcpy(inner, text.data(), text.size());
+    text.copy(inner, text.size());
     inner[room] = '\0';
     return new (block) LmStringBuffer(LmReferenceCount::Immortal(), inner, room);
 }
@@ -213,6 +213,10 @@ LmStringBuffer* LmStringBuffer::append(const char* text, unsigned int length)
 
 LmStringBuffer* LmStringBuffer::append(std::string_view text)
 {
+    if (text.empty())
+    {
+        return this;
+    }
     const std::size_t joined = m_Length + text.size();
     if (isShared())
     {
