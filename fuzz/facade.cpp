@@ -22,20 +22,23 @@ std::string streamsOf(const LmMediaSession& session)
 }
 
 /// A format list is read up to 255 characters, and a number above 31 bits has a sign in a built body. A codec name
-/// may be any text, also one that makes no rtpmap line.
+/// may be any text, also one that makes no rtpmap line; and a codec whose rtpmap line had no name, which stood behind
+/// others, has no such line in a built body and moves to the front.
 bool isPlain(const LmMediaSession& session)
 {
     for (const LmHandle<LmMediaStream>& hStream : session.getStreams())
     {
         std::size_t length = 0;
+        bool named = false;
         for (const LmCodecDescription& codec : hStream->getCodecs())
         {
             const std::string_view name = codec.getCodecName();
             length += 1 + std::to_string(codec.getCodecNo()).size();
-            if (codec.getCodecNo() > 0x7FFFFFFF || name.find('/') != std::string_view::npos)
+            if (codec.getCodecNo() > 0x7FFFFFFF || name.find('/') != std::string_view::npos || (named && name.empty()))
             {
                 return false;
             }
+            named = !name.empty();
         }
         if (length == 0 || length > 255 || hStream->getPortNo() > 0x7FFFFFFF)
         {

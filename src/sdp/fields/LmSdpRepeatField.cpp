@@ -38,7 +38,8 @@ void LmSdpRepeatField::setOffsetList(const char* text)
 
 void LmSdpRepeatField::addOffsets(const char* text)
 {
-    lmAppendWords(m_Offsets, lmViewOf(text));
+    const std::vector<LmString> added = lmWords(lmViewOf(text));
+    m_Offsets.insert(m_Offsets.end(), added.begin(), added.end());
 }
 
 void LmSdpRepeatField::parse(LmInputStream& in)

@@ -107,21 +107,17 @@ void LmSdpDescription::file(LmHandle<LmSdpField>&& hField)
     {
         LmException::sThrow("field doesn't belong in this description type LmSdpDescription::addField()");
     }
-    LmSdpField* const pAddedLast = pField->last();
-    if (m_Fields[slot].isNull())
+    LmSdpField* const pFirst = m_Fields[slot];
+    if (pFirst == nullptr)
     {
         m_Fields[slot] = std::move(hField);
+        return;
     }
-    else
+    if (pField->last() == pFirst->last())
     {
-        LmSdpField* const pTail = m_Tails[slot]->last();
-        if (pAddedLast == pTail)
-        {
-            LmException::sThrow("field is already in this description LmSdpDescription::addField()");
-        }
-        pTail->m_Next = std::move(hField);
+        LmException::sThrow("field is already in this description LmSdpDescription::addField()");
     }
-    m_Tails[slot] = pAddedLast;
+    pFirst->addNext(std::move(hField));
 }
 
 bool LmSdpDescription::checkForChangeFlag()

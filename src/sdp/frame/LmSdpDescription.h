@@ -110,7 +110,6 @@ private:
     /// The letters a to z among the field tokens, one bit each.
     std::uint32_t m_Letters;
 
-    /// Where the search for a chain's tail begins: a link that was the last one when it was looked for.
-    std::array<LmSdpField*, sm_SlotCount> m_Tails; // set with the slot
+    /// Where the search for the last description begins: one that was the last when it was looked for.
     LmSdpDescription* m_Tail = this;
 };

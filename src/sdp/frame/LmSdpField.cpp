@@ -74,12 +74,11 @@ void LmSdpField::addNext(LmHandle<LmSdpField> hNext)
     last()->m_Next = std::move(hNext);
 }
 
-LmSdpField* LmSdpField::lastInChain()
+LmSdpField* LmSdpField::last()
 {
-    LmSdpField* pLast = this;
-    while (LmSdpField* const pNext = pLast->m_Next)
+    while (LmSdpField* const pNext = m_Tail->m_Next)
     {
-        pLast = pNext;
+        m_Tail = pNext;
     }
-    return pLast;
+    return m_Tail;
 }

@@ -67,12 +67,16 @@ private:
 
     /// Appends at the tail of the chain that begins here.
     void addNext(LmHandle<LmSdpField> hNext);
-    LmSdpField* last() { return m_Next.isNull() ? this : lastInChain(); }
-    LmSdpField* lastInChain();
+
+    /// The last link of the chain that begins here.
+    LmSdpField* last();
 
     static LmSdpRegistry<LmSdpField>* sm_pConstructorMap;
 
     LmString m_Token;
     bool m_ChangedFlag = false;
     LmHandle<LmSdpField> m_Next;
+
+    /// Where the search for the last link begins: one that was the last when it was looked for.
+    LmSdpField* m_Tail = this;
 };

@@ -11,8 +11,10 @@ constexpr unsigned int s_ListCapacity = 256;
 
 } // namespace
 
-void lmAppendWords(std::vector<LmString>& words, std::string_view text)
+std::vector<LmString> lmWords(std::string_view text)
 {
+    std::vector<LmString> words;
+    words.reserve(1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ' ')));
     std::size_t start = 0;
     for (std::size_t blank = text.find(' '); blank != std::string_view::npos; blank = text.find(' ', start))
     {
@@ -23,13 +25,6 @@ void lmAppendWords(std::vector<LmString>& words, std::string_view text)
         start = blank + 1;
     }
     words.push_back(lmSdpText(text.substr(start)));
-}
-
-std::vector<LmString> lmWords(std::string_view text)
-{
-    std::vector<LmString> words;
-    words.reserve(1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ' ')));
-    lmAppendWords(words, text);
     return words;
 }
 

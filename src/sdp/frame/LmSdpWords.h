@@ -8,11 +8,8 @@
 
 /// Lists of words in a line's text, separated by blanks and by nothing else.
 
-/// Appends the pieces of `text` between its blanks. Pieces of no length are dropped, but for the last one, behind the
-/// last blank, which always counts: a text that is empty or ends in a blank gives an empty last word.
-void lmAppendWords(std::vector<LmString>& words, std::string_view text);
-
-/// The words of a text, as `lmAppendWords` finds them.
+/// The pieces of `text` between its blanks. Pieces of no length are dropped, but for the last one, behind the last
+/// blank, which always counts: a text that is empty or ends in a blank gives an empty last word.
 std::vector<LmString> lmWords(std::string_view text);
 
 /// A new text of all words, each two separated by one blank.
