@@ -12,13 +12,16 @@ namespace
 
 constexpr std::size_t s_ListBytes = 32 * 1024;
 constexpr std::size_t s_SmallestChunk = 512;
+constexpr std::size_t s_Offset = 8;
 
 /// Memory from the system, to be cut into blocks. The link keeps each chunk in reach of whoever looks for leaks.
 struct Chunk
 {
     Chunk* next;
     std::size_t bytes;
+    std::size_t padding; ///< puts the first block where ThreadHeap::allocate says
 };
+static_assert(sizeof(Chunk) % 16 == 8, "blocks would be out of place");
 
 /// An object that is never destroyed, since what needs it may outlive any order of static destruction.
 template <typename T>
@@ -240,7 +243,7 @@ __attribute__((noinline, cold)) void* ThreadHeap::sAllocateSlowly(std::size_t si
     {
         const std::size_t sizeClass = classOf(size);
         return heap != nullptr ? heap->supplies[sizeClass].refill(sizeClass, heap->current[sizeClass])
-                               : ::operator new(bytesOf(sizeClass));
+                               : static_cast<unsigned char*>(::operator new(bytesOf(sizeClass) + s_Offset)) + s_Offset;
     }
     return ::operator new(size);
 }
@@ -285,22 +288,26 @@ MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
     return sum.usage();
 }
 
-/// Stands in front of each block of an account, so that it can be given back without its size.
+/// Stands in front of each block of an account, so that it can be given back without its size. The object behind it
+/// is aligned for anything: a block that is not small has room in front of its header for that.
 struct MemAccount::Header
 {
     std::size_t size;
+
+    std::size_t roomInFront() const { return ThreadHeap::isSmall(size + sizeof(Header)) ? 0 : s_Offset; }
 };
 
 void* MemAccount::allocate(std::size_t size)
 {
-    if (size > SIZE_MAX - sizeof(Header))
+    const Header header{size};
+    const std::size_t blockSize = size + sizeof(Header) + header.roomInFront();
+    if (blockSize < size)
     {
         throw std::bad_alloc();
     }
-    auto* const header = static_cast<Header*>(ThreadHeap::allocate(size + sizeof(Header)));
-    header->size = size;
+    auto* const block = static_cast<unsigned char*>(ThreadHeap::allocate(blockSize));
     ThreadHeap::countTaken(*this, size);
-    return header + 1;
+    return new (block + header.roomInFront()) Header(header) + 1;
 }
 
 void MemAccount::deallocate(void* block) noexcept
@@ -308,8 +315,10 @@ void MemAccount::deallocate(void* block) noexcept
     if (block != nullptr)
     {
         Header* const header = static_cast<Header*>(block) - 1;
+        const std::size_t inFront = header->roomInFront();
         ThreadHeap::countGivenBack(*this, header->size);
-        ThreadHeap::deallocate(header, header->size + sizeof(Header));
+        ThreadHeap::deallocate(reinterpret_cast<unsigned char*>(header) - inFront,
+                               header->size + sizeof(Header) + inFront);
     }
 }
 

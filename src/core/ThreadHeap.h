@@ -33,6 +33,8 @@ public:
     /// Larger blocks come from the system.
     static constexpr std::size_t sm_LargestBlock = 256;
 
+    /// Small blocks lie 8 bytes behind an address that is aligned for anything, so that what stands behind a header of
+    /// 8 bytes is; larger ones lie on such an address.
     /// @throws std::bad_alloc
     static void* allocate(std::size_t size)
     {
@@ -86,6 +88,8 @@ public:
 
     /// What all threads together have counted on an account.
     static MemAccount::Usage usage(const MemAccount& account);
+
+    static constexpr bool isSmall(std::size_t size) { return !sm_SystemBlocks && size <= sm_LargestBlock; }
 
 private:
     static constexpr bool sm_SystemBlocks = QUORVEX_SANITIZED != 0;
@@ -149,7 +153,6 @@ private:
         return __builtin_expect(kept, 1) ? &heap->figures[account.m_Index] : nullptr;
     }
 
-    static constexpr bool isSmall(std::size_t size) { return !sm_SystemBlocks && size <= sm_LargestBlock; }
     static constexpr std::size_t classOf(std::size_t size) { return (size + sm_Granule - 1) / sm_Granule; }
 
     /// A block of no size takes as much as one of the smallest.

@@ -14,7 +14,16 @@ LmMediaStream::~LmMediaStream() = default;
 
 void LmMediaStream::addCodec(const LmCodecDescription& codec)
 {
-    addCodecs({codec});
+    const LmCodecDescription added = codec; // the codec given may be the one in the list that goes
+    const auto isFormer = [&added](const LmCodecDescription& present) {
+        return present.getCodecNo() == added.getCodecNo();
+    };
+    const auto former = std::find_if(m_Codecs.begin(), m_Codecs.end(), isFormer);
+    if (former != m_Codecs.end())
+    {
+        m_Codecs.erase(former);
+    }
+    m_Codecs.push_back(added);
 }
 
 void LmMediaStream::addCodecs(const std::vector<LmCodecDescription>& codecs)

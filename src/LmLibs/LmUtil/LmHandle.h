@@ -61,13 +61,19 @@ public:
     template <typename U>
     friend bool operator==(const LmHandle& left, const LmHandle<U>& right)
     {
-        return left.object() == LmHandle<LmObject>(right).object();
+        const LmHandle<LmObject> hLeft(left);
+        const LmHandle<LmObject> hRight(right);
+        return hLeft == hRight;
     }
     template <typename U>
     friend bool operator!=(const LmHandle& left, const LmHandle<U>& right)
     {
         return !(left == right);
     }
+    friend bool operator==(const LmHandle& left, T* right) { return left.dereference() == right; }
+    friend bool operator!=(const LmHandle& left, T* right) { return left.dereference() != right; }
+    friend bool operator==(T* left, const LmHandle& right) { return left == right.dereference(); }
+    friend bool operator!=(T* left, const LmHandle& right) { return left != right.dereference(); }
     friend bool operator==(const LmHandle& left, const T* right) { return left.dereference() == right; }
     friend bool operator!=(const LmHandle& left, const T* right) { return left.dereference() != right; }
     friend bool operator==(const T* left, const LmHandle& right) { return left == right.dereference(); }

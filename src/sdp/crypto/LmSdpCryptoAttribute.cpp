@@ -51,6 +51,13 @@ bool takePowerMark(LmInputStream& in)
     return false;
 }
 
+/// What the log may hold of a suite's text: where a peer left the suite out, a key stands in its place behind a colon,
+/// which no suite name has.
+std::string_view loggable(std::string_view suite)
+{
+    return suite.substr(0, suite.find(':'));
+}
+
 /// A 32-bit number as "%d" writes it.
 std::string asSigned(unsigned int number)
 {
@@ -340,7 +347,8 @@ void LmSdpCryptoAttribute::setCryptoSuite(const char* name)
     if (suite == CryptoType::EXTENDED)
     {
         const LmString text(name);
-        QUORVEX_LOG(s_Logger, Quorvex::eDebug, "LmSdpCryptoAttribute", "Parsed extended crypto suite " << text.c_str());
+        QUORVEX_LOG(s_Logger, Quorvex::eDebug, "LmSdpCryptoAttribute",
+                    "Parsed extended crypto suite " << loggable(text.view()));
         m_ExtendedCryptoSuite = text;
     }
     setCryptoSuite(suite);

@@ -23,6 +23,11 @@ void LmSdpProtocolVersionField::setProtocolVersion(const char* text)
 
 void LmSdpProtocolVersionField::parse(LmInputStream& in)
 {
+    if (LmStreamTokenizer::sIsEmptyLine(in))
+    {
+        m_ProtocolVersion = LmString();
+        return;
+    }
     const LmLine line(in);
     if (!std::all_of(line.view().begin(), line.view().end(), lmIsDigit))
     {

@@ -8,7 +8,7 @@
 #include <cstring>
 #include <string>
 
-LmStringBuffer* lmSdpLetters[128] = {};
+LmStringBuffer* lmSdpLetters[256] = {};
 
 namespace
 {
@@ -59,7 +59,7 @@ public:
     {
         if (text.size() == 1)
         {
-            return text.front() > 0 ? lmSdpLetters[static_cast<unsigned char>(text.front())] : nullptr;
+            return lmSdpLetters[static_cast<unsigned char>(text.front())];
         }
         if (text.size() > s_LongestWord)
         {

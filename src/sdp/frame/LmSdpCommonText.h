@@ -12,12 +12,12 @@
 LMSDP_API LmString lmSdpText(std::string_view text);
 
 /// The shared texts of single letters by their code; null for any other, and until the library has been loaded.
-LMSDP_API extern LmStringBuffer* lmSdpLetters[128];
+LMSDP_API extern LmStringBuffer* lmSdpLetters[256];
 
 /// The token of a line or description; the single letters are shared.
 inline LmString lmSdpToken(const char* token)
 {
-    const bool isLetter = token != nullptr && token[0] > 0 && token[1] == '\0';
+    const bool isLetter = token != nullptr && token[0] != '\0' && token[1] == '\0';
     LmStringBuffer* const pShared = isLetter ? lmSdpLetters[static_cast<unsigned char>(token[0])] : nullptr;
     return pShared != nullptr ? LmString(*pShared) : LmString(token);
 }
