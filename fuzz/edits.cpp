@@ -28,7 +28,8 @@ public:
 
     std::string text()
     {
-        const std::size_t length = std::min<std::size_t>(number() % 32, m_Text.size());
+        const std::size_t wanted = number() % 32;
+        const std::size_t length = std::min(wanted, m_Text.size());
         const std::string piece(m_Text.substr(0, length));
         m_Text.remove_prefix(length);
         return piece;

@@ -21,7 +21,7 @@ struct Chunk
     std::size_t bytes;
     std::size_t padding; ///< puts the first block where ThreadHeap::allocate says
 };
-static_assert(sizeof(Chunk) % 16 == 8, "blocks would be out of place");
+static_assert(sizeof(Chunk) % 16 == 8);
 
 /// An object that is never destroyed, since what needs it may outlive any order of static destruction.
 template <typename T>

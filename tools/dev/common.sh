@@ -5,8 +5,8 @@ script=$(realpath -- "$0")
 cd "$root"
 
 jobs=$(nproc)
-packages_to_build=(g++ cmake ninja-build liblog4cplus-dev libace-dev libcli11-dev)
-packages_to_test=(libgtest-dev libgmock-dev pkg-config)
+packages_to_build=(g++ cmake ninja-build liblog4cplus-dev libace-dev libcli11-dev nlohmann-json3-dev)
+packages_to_test=(libgtest-dev libgmock-dev pkg-config python3 sip-tester ffmpeg)
 
 say() { printf '== %s\n' "$*" >&2; }
 
