@@ -28,7 +28,8 @@ public:
     /// Throws an LmException with that message.
     [[noreturn]] static void sThrow(const char* message);
 
-    /// Throws the object itself, made with `new`, so that it arrives with its own class, and takes it over.
+    /// Throws the object itself, so that it arrives with its own class, and takes it over. It must have been made with
+    /// `new` (not `::new`), and its class must have LmException as its first base.
     [[noreturn]] static void sThrow(LmException* pException);
 
     /// An exception is made where the run-time system can throw it in place, which still works when memory has run
