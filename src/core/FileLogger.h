@@ -13,6 +13,7 @@ namespace Quorvex
 class HARNWICK_CORE_API FileLogger
 {
 public:
+    /// `category` is a string literal. Nothing is made yet.
     explicit constexpr FileLogger(const char* category) : m_Category(category) {}
 
     FileLogger(const FileLogger&) = delete;

@@ -27,8 +27,11 @@ public:
     /// The logger of `category`, shared with everybody who asks log4cplus for that name.
     explicit Logger(const char* category);
 
+    ///@{
+    /// A copy writes to the same place.
     Logger(const Logger&) = default;
     Logger& operator=(const Logger&) = default;
+    ///@}
     ~Logger() override;
 
     /// The level set for this logger itself, `eNotSet` when it takes the level of those above it.

@@ -16,6 +16,7 @@ namespace Quorvex
 class HARNWICK_CORE_API MemAccount
 {
 public:
+    /// What one account holds.
     struct Usage
     {
         std::size_t liveObjects = 0;      ///< blocks taken and not yet given back
@@ -27,19 +28,24 @@ public:
     class Figures
     {
     public:
+        /// Counts a block that was taken.
         void take(std::uint64_t bytes)
         {
             add(m_Taken, 1);
             add(m_BytesTaken, bytes);
         }
 
+        /// Counts a block that was given back.
         void giveBack(std::uint64_t bytes)
         {
             add(m_GivenBack, 1);
             add(m_BytesGivenBack, bytes);
         }
 
+        /// Adds these figures to those of `sum`.
         void addTo(Figures& sum) const;
+
+        /// What these figures come to.
         Usage usage() const;
 
     private:
@@ -81,6 +87,12 @@ private:
     ~MemAccount() = default;
 
     static MemAccount* sFind(const char* account);
+
+    ///@{
+    /// The way of blocks that do not come from the thread's own heap.
+    void* allocateLarge(std::size_t size);
+    void deallocateLarge(Header* header) noexcept;
+    ///@}
 
     static std::atomic<MemAccount*> sm_First;
 

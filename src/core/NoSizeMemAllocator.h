@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/MemAccount.h"
+#include "core/ThreadHeap.h"
 
 #include <cstddef>
 
@@ -11,13 +11,17 @@ namespace Quorvex
 class HARNWICK_CORE_API NoSizeMemAllocator
 {
 public:
-    /// @throws std::bad_alloc
+    ///@{
+    /// Takes `size` bytes from, and gives them back to, the account of that name. @throws std::bad_alloc
     static void* allocate(std::size_t size, const char* account);
     static void deallocate(void* block, const char* account) noexcept;
+    ///@}
 
+    ///@{
     /// The same for a caller that has looked its account up before.
     static void* allocate(std::size_t size, MemAccount& account) { return account.allocate(size); }
     static void deallocate(void* block, MemAccount& account) noexcept { account.deallocate(block); }
+    ///@}
 };
 
 } // namespace Quorvex

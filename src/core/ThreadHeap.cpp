@@ -12,7 +12,6 @@ namespace
 
 constexpr std::size_t s_ListBytes = 32 * 1024;
 constexpr std::size_t s_SmallestChunk = 512;
-constexpr std::size_t s_Offset = 8;
 
 /// Memory from the system, to be cut into blocks. The link keeps each chunk in reach of whoever looks for leaks.
 struct Chunk
@@ -242,8 +241,9 @@ __attribute__((noinline, cold)) void* ThreadHeap::sAllocateSlowly(std::size_t si
     if (isSmall(size))
     {
         const std::size_t sizeClass = classOf(size);
-        return heap != nullptr ? heap->supplies[sizeClass].refill(sizeClass, heap->current[sizeClass])
-                               : static_cast<unsigned char*>(::operator new(bytesOf(sizeClass) + s_Offset)) + s_Offset;
+        return heap != nullptr
+                   ? heap->supplies[sizeClass].refill(sizeClass, heap->current[sizeClass])
+                   : static_cast<unsigned char*>(::operator new(bytesOf(sizeClass) + sm_Offset)) + sm_Offset;
     }
     return ::operator new(size);
 }
@@ -288,38 +288,23 @@ MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
     return sum.usage();
 }
 
-/// Stands in front of each block of an account, so that it can be given back without its size. The object behind it
-/// is aligned for anything: a block that is not small has room in front of its header for that.
-struct MemAccount::Header
+void* MemAccount::allocateLarge(std::size_t size)
 {
-    std::size_t size;
-
-    std::size_t roomInFront() const { return ThreadHeap::isSmall(size + sizeof(Header)) ? 0 : s_Offset; }
-};
-
-void* MemAccount::allocate(std::size_t size)
-{
-    const Header header{size};
-    const std::size_t blockSize = size + sizeof(Header) + header.roomInFront();
-    if (blockSize < size)
+    constexpr std::size_t inFront = ThreadHeap::sm_Offset + sizeof(Header);
+    if (size + inFront < size)
     {
         throw std::bad_alloc();
     }
-    auto* const block = static_cast<unsigned char*>(ThreadHeap::allocate(blockSize));
+    auto* const block = static_cast<unsigned char*>(ThreadHeap::allocate(size + inFront));
     ThreadHeap::countTaken(*this, size);
-    return new (block + header.roomInFront()) Header(header) + 1;
+    return new (block + ThreadHeap::sm_Offset) Header{size} + 1;
 }
 
-void MemAccount::deallocate(void* block) noexcept
+void MemAccount::deallocateLarge(Header* header) noexcept
 {
-    if (block != nullptr)
-    {
-        Header* const header = static_cast<Header*>(block) - 1;
-        const std::size_t inFront = header->roomInFront();
-        ThreadHeap::countGivenBack(*this, header->size);
-        ThreadHeap::deallocate(reinterpret_cast<unsigned char*>(header) - inFront,
-                               header->size + sizeof(Header) + inFront);
-    }
+    ThreadHeap::countGivenBack(*this, header->size);
+    ThreadHeap::deallocate(reinterpret_cast<unsigned char*>(header) - ThreadHeap::sm_Offset,
+                           header->size + ThreadHeap::sm_Offset + sizeof(Header));
 }
 
 } // namespace Quorvex

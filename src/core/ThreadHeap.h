@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define QUORVEX_SANITIZED 1
@@ -32,6 +33,9 @@ class HARNWICK_CORE_API ThreadHeap
 public:
     /// Larger blocks come from the system.
     static constexpr std::size_t sm_LargestBlock = 256;
+
+    /// How far a small block lies behind an address that is aligned for anything.
+    static constexpr std::size_t sm_Offset = 8;
 
     /// Small blocks lie 8 bytes behind an address that is aligned for anything, so that what stands behind a header of
     /// 8 bytes is; larger ones lie on such an address.
@@ -89,7 +93,11 @@ public:
     /// What all threads together have counted on an account.
     static MemAccount::Usage usage(const MemAccount& account);
 
-    static constexpr bool isSmall(std::size_t size) { return !sm_SystemBlocks && size <= sm_LargestBlock; }
+    /// Whether a block of that size, with so much in front of it, is a small one.
+    static constexpr bool isSmall(std::size_t size, std::size_t inFront = 0)
+    {
+        return !sm_SystemBlocks && size <= sm_LargestBlock - inFront;
+    }
 
 private:
     static constexpr bool sm_SystemBlocks = QUORVEX_SANITIZED != 0;
@@ -172,5 +180,40 @@ private:
     static __thread Heap* st_Heap __attribute__((tls_model("initial-exec")));
     static __thread bool st_Ended __attribute__((tls_model("initial-exec")));
 };
+
+/// Stands in front of each block of an account, so that it can be given back without its size. The object behind it
+/// is aligned for anything: a block that is not small has room in front of its header for that.
+struct MemAccount::Header
+{
+    std::size_t size;
+};
+
+inline void* MemAccount::allocate(std::size_t size)
+{
+    if (__builtin_expect(!ThreadHeap::isSmall(size, sizeof(Header)), 0))
+    {
+        return allocateLarge(size);
+    }
+    void* const block = ThreadHeap::allocate(size + sizeof(Header));
+    ThreadHeap::countTaken(*this, size);
+    return new (block) Header{size} + 1;
+}
+
+inline void MemAccount::deallocate(void* block) noexcept
+{
+    if (block == nullptr)
+    {
+        return;
+    }
+    Header* const header = static_cast<Header*>(block) - 1;
+    const std::size_t size = header->size;
+    if (__builtin_expect(!ThreadHeap::isSmall(size, sizeof(Header)), 0))
+    {
+        deallocateLarge(header);
+        return;
+    }
+    ThreadHeap::countGivenBack(*this, size);
+    ThreadHeap::deallocate(header, size + sizeof(Header));
+}
 
 } // namespace Quorvex

@@ -19,6 +19,7 @@ public:
         }
     }
 
+    /// The same with the logger of a source file.
     TraceScope(FileLogger& fileLogger, const char* name) : TraceScope(fileLogger.listening(eTrace), name) {}
 
     TraceScope(const TraceScope&) = delete;
@@ -33,8 +34,11 @@ public:
     }
 
 protected:
+    ///@{
+    /// Write the two lines.
     void ctorLog() const;
     void dtorLog() const;
+    ///@}
 
 private:
     static bool isTraced(const Logger* pLogger) { return pLogger != nullptr && isWanted(*pLogger); }

@@ -11,6 +11,7 @@ public:
     /// name. A null pointer makes a codec without a name.
     LmCodecDescription(unsigned int codecNo, const char* codecName);
 
+    /// The RTP payload type.
     unsigned int getCodecNo() const { return m_CodecNo; }
 
     /// A null pointer for a codec without a name; valid as long as this value or a copy.

@@ -13,6 +13,7 @@
 class LMSDP_API LmMediaStream : public LmObject
 {
 public:
+    /// What is sent: the first word of an `m=` line.
     enum Type
     {
         AUDIO = 0,
@@ -26,9 +27,12 @@ public:
     LmMediaStream(Type type, unsigned int portNo, const LmInetAddress& address);
     ~LmMediaStream() override;
 
+    ///@{
+    /// What it was made with.
     Type getType() const { return m_Type; }
     unsigned int getPortNo() const { return m_PortNo; }
     LmInetAddress getInetAddress() const { return m_InetAddress; }
+    ///@}
 
     /// In the order in which they were last added; no two have the same number.
     const std::vector<LmCodecDescription>& getCodecs() const { return m_Codecs; }

@@ -6,6 +6,8 @@
 #include "sdp/crypto/LmSdpCryptoAttribute.h"
 #include "sdp/media/LmSdpRtpAttribute.h"
 
+#include <cstring>
+
 namespace
 {
 
@@ -15,17 +17,24 @@ std::string_view firstLine(std::string_view text)
     return text.substr(0, static_cast<std::size_t>(end - text.data()));
 }
 
+/// A comparison in place: the length of `word` is known to the compiler.
+template <std::size_t Size>
+bool is(std::string_view name, const char (&word)[Size])
+{
+    return name.size() == Size - 1 && std::memcmp(name.data(), word, Size - 1) == 0;
+}
+
 } // namespace
 
 LmHandle<LmSdpAttribute> lmSdpAttributeValue(std::string_view name, std::string_view text)
 {
-    if (name == "rtpmap")
+    if (is(name, "rtpmap"))
     {
         return new LmSdpRtpAttribute(firstLine(text));
     }
-    if (name == "crypto")
+    if (is(name, "crypto"))
     {
         return new LmSdpCryptoAttribute(LmString(text).c_str());
     }
-    return new LmSdpAttribute(LmString(text));
+    return new LmSdpAttribute(text);
 }

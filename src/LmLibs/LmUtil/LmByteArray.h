@@ -16,9 +16,13 @@ public:
 
     ~LmByteArray() override;
 
+    /// The bytes; valid as long as the array.
     const unsigned char* getBytes() const { return reinterpret_cast<const unsigned char*>(this + 1); }
+
+    /// How many there are.
     unsigned int getSize() const { return m_Size; }
 
+    /// For `delete`, which handles call.
     static void operator delete(void* block) noexcept;
 
 private:

@@ -2,8 +2,10 @@
 
 #include "LmLibs/LmUtil/LmUtilExport.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #ifdef __SSE2__
@@ -35,69 +37,108 @@ constexpr std::string_view lmViewOf(const char* text)
     return text == nullptr ? std::string_view() : std::string_view(text);
 }
 
-/// The first of two bytes in a range, or its end. Lines and words are short, so the sixteen bytes at a time are looked
-/// at in place rather than in a function of the C library.
-inline const char* lmFindEither(const char* text, const char* end, char one, char other)
+/// The first byte in a range that passes a test, or its end. Lines and words are short, so sixteen bytes at a time are
+/// looked at in place rather than in a function of the C library, and no byte outside the range is touched: the last
+/// blocks overlap. `isHit` tests one byte; `hits` tests sixteen and sets each that passes to 0xFF.
+template <typename IsHit, typename Hits>
+inline const char* lmFindFirst(const char* text, const char* end, [[maybe_unused]] IsHit isHit,
+                               [[maybe_unused]] Hits hits)
 {
 #ifdef __SSE2__
-    const __m128i ones = _mm_set1_epi8(one);
-    const __m128i others = _mm_set1_epi8(other);
-    for (; end - text >= 16; text += 16)
+    const auto maskOf = [&hits](__m128i bytes) { return static_cast<unsigned int>(_mm_movemask_epi8(hits(bytes))); };
+    const auto wordAt = [](const char* place) {
+        std::int32_t word;
+        std::memcpy(&word, place, sizeof word);
+        return _mm_cvtsi32_si128(word);
+    };
+    const auto longAt = [](const char* place) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(place)); };
+    const auto blockAt = [](const char* place) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(place)); };
+
+    if (end - text >= 16)
     {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
-        const __m128i hits = _mm_or_si128(_mm_cmpeq_epi8(bytes, ones), _mm_cmpeq_epi8(bytes, others));
-        const auto mask = static_cast<unsigned int>(_mm_movemask_epi8(hits));
-        if (mask != 0)
+        for (; end - text > 16; text += 16)
         {
-            return text + __builtin_ctz(mask);
+            if (const unsigned int mask = maskOf(blockAt(text)); mask != 0)
+            {
+                return text + __builtin_ctz(mask);
+            }
         }
+        const unsigned int mask = maskOf(blockAt(end - 16));
+        return mask != 0 ? end - 16 + __builtin_ctz(mask) : end;
+    }
+    if (end - text >= 8)
+    {
+        const unsigned int mask = maskOf(_mm_unpacklo_epi64(longAt(text), longAt(end - 8)));
+        const int hit = mask != 0 ? __builtin_ctz(mask) : 16;
+        return hit < 8 ? text + hit : end - 16 + hit;
+    }
+    if (end - text >= 4)
+    {
+        const unsigned int mask = maskOf(_mm_unpacklo_epi32(wordAt(text), wordAt(end - 4))) & 0xFF;
+        const int hit = mask != 0 ? __builtin_ctz(mask) : 8;
+        return hit < 4 ? text + hit : end - 8 + hit;
     }
 #endif
-    while (text != end && *text != one && *text != other)
+    while (text != end && !isHit(static_cast<unsigned char>(*text)))
     {
         ++text;
     }
     return text;
 }
 
+#ifdef __SSE2__
+inline __m128i lmHitsOf(__m128i bytes, char byte)
+{
+    return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(byte));
+}
+
+/// Those not above `highest`.
+inline __m128i lmHitsUpTo(__m128i bytes, char highest)
+{
+    return _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(highest)), bytes);
+}
+#define LM_HITS(expression) [&](__m128i bytes) { return expression; }
+#else
+#define LM_HITS(expression) 0
+#endif
+
 /// The first CR or LF in a range, or its end. One pass, so that text with one kind of line end only stays linear.
 inline const char* lmFindLineEnd(const char* text, const char* end)
 {
-    return lmFindEither(text, end, '\r', '\n');
+    return lmFindFirst(text, end, lmIsLineEnd, LM_HITS(_mm_or_si128(lmHitsOf(bytes, '\r'), lmHitsOf(bytes, '\n'))));
 }
 
 /// The first white space in a range, or its end.
 inline const char* lmFindSpace(const char* text, const char* end)
 {
-#ifdef __SSE2__
-    const __m128i blanks = _mm_set1_epi8(' ');
-    for (; end - text >= 16; text += 16)
-    {
-        // Control characters that are no white space show here as well, so each hit is looked at once more.
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
-        const __m128i hits = _mm_cmpeq_epi8(_mm_min_epu8(bytes, blanks), bytes);
-        for (auto mask = static_cast<unsigned int>(_mm_movemask_epi8(hits)); mask != 0; mask &= mask - 1)
-        {
-            const char* const hit = text + __builtin_ctz(mask);
-            if (lmIsSpace(*hit))
-            {
-                return hit;
-            }
-        }
-    }
-#endif
-    while (text != end && !lmIsSpace(*text))
-    {
-        ++text;
-    }
-    return text;
+    return lmFindFirst(
+        text, end, lmIsSpace,
+        LM_HITS(_mm_or_si128(lmHitsOf(bytes, ' '), lmHitsUpTo(_mm_sub_epi8(bytes, _mm_set1_epi8('\t')), '\r' - '\t'))));
 }
 
-/// The place of the first such byte in the text, or npos.
-inline std::size_t lmFindByte(std::string_view text, char byte)
+/// A few bytes to look for; where there are fewer than these, one is repeated.
+using LmFewBytes = char[5];
+
+/// The first byte in a range that is one of a few, or its end.
+inline const char* lmFindOneOf(const char* text, const char* end, const LmFewBytes& wanted)
+{
+    const auto isWanted = [&wanted](int c) {
+        const char byte = static_cast<char>(c);
+        return byte == wanted[0] || byte == wanted[1] || byte == wanted[2] || byte == wanted[3] || byte == wanted[4];
+    };
+    const auto hits = LM_HITS(_mm_or_si128(
+        _mm_or_si128(_mm_or_si128(lmHitsOf(bytes, wanted[0]), lmHitsOf(bytes, wanted[1])), lmHitsOf(bytes, wanted[2])),
+        _mm_or_si128(lmHitsOf(bytes, wanted[3]), lmHitsOf(bytes, wanted[4]))));
+    return lmFindFirst(text, end, isWanted, hits);
+}
+
+/// The place of the first such byte in the text at or behind `start`, or npos.
+inline std::size_t lmFindByte(std::string_view text, char byte, std::size_t start = 0)
 {
     const char* const end = text.data() + text.size();
-    const char* const found = lmFindEither(text.data(), end, byte, byte);
+    const char* const found = lmFindFirst(
+        text.data() + std::min(start, text.size()), end, [byte](int c) { return static_cast<char>(c) == byte; },
+        LM_HITS(lmHitsOf(bytes, byte)));
     return found == end ? std::string_view::npos : static_cast<std::size_t>(found - text.data());
 }
 
@@ -146,5 +187,16 @@ LMUTIL_API long lmAtol(std::string_view text);
 /// What `atoi` gives for the text: the low bits of `lmAtol`.
 inline int lmAtoi(std::string_view text)
 {
-    return static_cast<int>(lmAtol(text));
+    constexpr std::size_t safeDigits = 9;
+    int number = 0;
+    std::size_t count = 0;
+    for (; count < text.size() && lmIsDigit(text[count]); ++count)
+    {
+        if (count == safeDigits)
+        {
+            return static_cast<int>(lmAtol(text));
+        }
+        number = number * 10 + (text[count] - '0');
+    }
+    return count == 0 && !text.empty() ? static_cast<int>(lmAtol(text)) : number;
 }

@@ -13,14 +13,20 @@ template <typename T>
 class LmHandle : public LmHandleBase
 {
 public:
+    ///@{
+    /// An empty handle.
     LmHandle() noexcept : LmHandleBase(nullptr) {}
     LmHandle(std::nullptr_t) noexcept : LmHandleBase(nullptr) {}
+    ///@}
 
     /// Shares the object, or owns one that is new.
     LmHandle(T* pObject) noexcept : LmHandleBase(pObject) {}
 
+    ///@{
+    /// Copying shares the object; moving leaves the other handle empty.
     LmHandle(const LmHandle&) noexcept = default;
     LmHandle(LmHandle&&) noexcept = default;
+    ///@}
 
     /// Shares the object of a handle of a related type; empty when that object is no `T`.
     template <typename U>
@@ -28,6 +34,8 @@ public:
     {
     }
 
+    ///@{
+    /// Takes what the constructor of that kind would take, and gives the present object up.
     LmHandle& operator=(const LmHandle&) noexcept = default;
     LmHandle& operator=(LmHandle&&) noexcept = default;
 
@@ -42,17 +50,28 @@ public:
     {
         return *this = LmHandle(other);
     }
+    ///@}
 
     ~LmHandle() = default;
 
+    /// Whether it refers to no object.
     bool isNull() const noexcept { return object() == nullptr; }
+
+    /// Whether it refers to an object.
     explicit operator bool() const noexcept { return !isNull(); }
 
+    ///@{
     /// The object, or a null pointer for an empty handle. An object that is no `T` raises the assertion "pObj!=0" and
     /// gives a null pointer.
     T* operator->() const { return dereference(); }
     operator T*() const { return dereference(); }
 
+    /// The object without the run-time type test, for loops over handles that were only ever given a `T`.
+    T* untested() const noexcept { return static_cast<T*>(object()); }
+    ///@}
+
+    ///@{
+    /// Handles, pointers and null pointers are equal when they refer to the same object, or all to none.
     friend bool operator==(const LmHandle& left, const LmHandle& right)
     {
         return left.dereference() == right.dereference();
@@ -82,8 +101,10 @@ public:
     friend bool operator!=(const LmHandle& handle, std::nullptr_t) { return !handle.isNull(); }
     friend bool operator==(std::nullptr_t, const LmHandle& handle) { return handle.isNull(); }
     friend bool operator!=(std::nullptr_t, const LmHandle& handle) { return !handle.isNull(); }
+    ///@}
 
 protected:
+    /// Takes over a reference that the caller has counted.
     LmHandle(T* pCounted, Adopt adopt) noexcept : LmHandleBase(pCounted, adopt) {}
 
 private:

@@ -29,8 +29,11 @@ public:
     /// The dotted form ("0.0.0.0" when not set), valid until the same thread asks again.
     const char* getHostAddress() const;
 
+    ///@{
+    /// Compares the addresses; two that are not set are equal.
     friend bool operator==(LmInetAddress left, LmInetAddress right) { return left.m_Address == right.m_Address; }
     friend bool operator!=(LmInetAddress left, LmInetAddress right) { return left.m_Address != right.m_Address; }
+    ///@}
 
 private:
     std::uint32_t m_Address = 0;

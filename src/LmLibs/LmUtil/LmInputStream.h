@@ -25,6 +25,7 @@ public:
     /// The number of bytes left; 0 means the end of input.
     virtual unsigned int available() = 0;
 
+    /// Whether `mark` and `reset` work. Reading a body needs them.
     virtual bool markSupported() = 0;
 
     /// Remembers this position. `readLimit` is how many bytes may be read before `reset`.
@@ -35,8 +36,12 @@ public:
 
     /// True when the window below shows all that is left to read.
     bool hasWindow() const { return m_Cursor != nullptr; }
+
+    ///@{
+    /// The bytes that are left; null pointers without a window. Valid until the stream is read from or goes.
     const char* windowBegin() const { return m_Cursor; }
     const char* windowEnd() const { return m_End; }
+    ///@}
 
     /// Consumes the bytes of the window in front of `position`.
     void consumeTo(const char* position) { m_Cursor = position; }
@@ -45,6 +50,7 @@ protected:
     /// A stream that reads through the virtual operations only.
     LmInputStream() = default;
 
+    /// Shows the bytes from `begin` up to, but not including, `end` as all that is left.
     void setWindow(const char* begin, const char* end)
     {
         m_Cursor = begin;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmInputStream.h"
-#include "LmLibs/LmUtil/LmStreamCursor.h"
 
 #include <memory>
 #include <string>
@@ -15,25 +15,55 @@ class LmLine
 public:
     explicit LmLine(LmInputStream& in)
     {
-        if (in.hasWindow())
+        if (__builtin_expect(in.hasWindow(), 1))
         {
-            LmWindowCursor cursor(in);
-            m_View = lmTakeLine(cursor);
+            mark(in.windowBegin(), in.windowEnd());
+            in.consumeTo(behindLineEnd(in.windowEnd()));
         }
         else
         {
-            LmByteCursor cursor(in);
-            m_Copy = std::make_unique<std::string>(lmTakeLine(cursor));
-            m_View = *m_Copy;
+            copy(in);
         }
     }
 
     LmLine(const LmLine&) = delete;
     LmLine& operator=(const LmLine&) = delete;
 
-    std::string_view view() const { return m_View; }
+    std::string_view view() const { return viewFrom(m_Begin); }
+
+    /// Whether the line has a colon, and what stands on either side of the first. What is behind it ends at a NUL
+    /// byte, where a C string would end.
+    bool hasColon() const { return m_Colon != nullptr; }
+    std::string_view inFrontOfColon() const
+    {
+        return {m_Begin, static_cast<std::size_t>((hasColon() ? m_Colon : m_End) - m_Begin)};
+    }
+    std::string_view behindColon() const
+    {
+        const std::string_view rest = viewFrom(hasColon() ? m_Colon + 1 : m_End);
+        return __builtin_expect(m_HasNul, 0) ? lmUpToNul(rest) : rest;
+    }
 
 private:
+    std::string_view viewFrom(const char* begin) const { return {begin, static_cast<std::size_t>(m_End - begin)}; }
+
+    const char* behindLineEnd(const char* end) const
+    {
+        if (m_End == end)
+        {
+            return end;
+        }
+        const bool isPair = *m_End == '\r' && m_End + 1 != end && m_End[1] == '\n';
+        return m_End + (isPair ? 2 : 1);
+    }
+
+    /// Finds in one pass over the range what there is to know of its first line.
+    LMUTIL_API void mark(const char* begin, const char* end);
+    LMUTIL_API void copy(LmInputStream& in);
+
     std::unique_ptr<const std::string> m_Copy;
-    std::string_view m_View;
+    const char* m_Begin;
+    const char* m_End;
+    const char* m_Colon;
+    bool m_HasNul;
 };

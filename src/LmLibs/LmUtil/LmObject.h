@@ -12,6 +12,7 @@ class LmOutputStream;
 class LMUTIL_API LmObject
 {
 public:
+    /// An object with a count of 0.
     LmObject() noexcept
     {
 #ifdef LMUTIL_COUNT_OBJECTS
@@ -19,12 +20,14 @@ public:
 #endif
     }
 
+    ///@{
     /// A copy is an object of its own, without an owner.
     LmObject(const LmObject&) noexcept : LmObject() {}
     LmObject& operator=(const LmObject&) noexcept
     {
         return *this;
     }
+    ///@}
 
     virtual ~LmObject()
     {

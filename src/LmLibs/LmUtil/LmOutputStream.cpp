@@ -6,24 +6,15 @@ LmOutputStream::~LmOutputStream() = default;
 
 void LmOutputStream::flush() {}
 
-LmOutputStream& LmOutputStream::operator<<(const char* text)
-{
-    if (text != nullptr)
-    {
-        writeAll(text);
-    }
-    return *this;
-}
-
 LmOutputStream& LmOutputStream::operator<<(unsigned int number)
 {
     char digits[10];
     const std::to_chars_result result = std::to_chars(digits, digits + sizeof digits, number);
-    write(digits, static_cast<unsigned int>(result.ptr - digits));
+    writeAll({digits, static_cast<std::size_t>(result.ptr - digits)});
     return *this;
 }
 
-void LmOutputStream::writeAll(std::string_view text)
+void LmOutputStream::writeBeyondRoom(std::string_view text)
 {
     constexpr std::size_t largest = 0x40000000;
     for (; text.size() > largest; text.remove_prefix(largest))

@@ -8,9 +8,12 @@ class LmOutputStream;
 class LMUTIL_API LmSerializable
 {
 public:
+    ///@{
+    /// It holds nothing.
     LmSerializable() = default;
     LmSerializable(const LmSerializable&) = default;
     LmSerializable& operator=(const LmSerializable&) = default;
+    ///@}
     virtual ~LmSerializable() = default;
 
     /// Writes this object. What it raises, and what has been written by then, each class says.

@@ -10,6 +10,7 @@
 class LMUTIL_API LmStdInputStream : public LmInputStream
 {
 public:
+    /// Reads from where `in` stands.
     explicit LmStdInputStream(std::istream& in);
     ~LmStdInputStream() override;
 

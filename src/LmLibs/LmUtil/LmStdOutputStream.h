@@ -8,6 +8,7 @@
 class LMUTIL_API LmStdOutputStream : public LmOutputStream
 {
 public:
+    /// Writes to where `out` stands.
     explicit LmStdOutputStream(std::ostream& out);
     ~LmStdOutputStream() override;
 

@@ -43,6 +43,7 @@ public:
 
     std::string_view takeUntilLineEnd() { return takeTo(lmFindLineEnd(m_Next, m_End)); }
     std::string_view takeUntilSpace() { return takeTo(lmFindSpace(m_Next, m_End)); }
+    std::string_view takeUntilOneOf(const LmFewBytes& stops) { return takeTo(lmFindOneOf(m_Next, m_End, stops)); }
 
 private:
     std::string_view takeTo(const char* position)
@@ -106,6 +107,13 @@ public:
     std::string_view takeUntilSpace()
     {
         return takeUntil([](int c) { return lmIsSpace(c); });
+    }
+    std::string_view takeUntilOneOf(const LmFewBytes& stops)
+    {
+        return takeUntil([&stops](int c) {
+            const char byte = static_cast<char>(c);
+            return lmFindOneOf(&byte, &byte + 1, stops) == &byte;
+        });
     }
 
 private:

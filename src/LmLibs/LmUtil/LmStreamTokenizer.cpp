@@ -11,23 +11,31 @@ namespace
 
 constexpr std::uint64_t s_NoNumber = 0xFFFFFFFF;
 
-/// A set of bytes, asked for each byte of a token.
-class ByteSet
+/// The bytes that end a token. Nearly always they are few enough to be looked for in many bytes at once.
+class Delimiters
 {
 public:
-    explicit ByteSet(const char* bytes)
+    explicit Delimiters(std::string_view bytes) : m_Bytes(bytes)
     {
-        for (; *bytes != '\0'; ++bytes)
+        for (std::size_t i = 0; i < sizeof m_Few && !bytes.empty(); ++i)
         {
-            const auto byte = static_cast<unsigned char>(*bytes);
-            m_Bits[byte / 64] |= std::uint64_t(1) << (byte % 64);
+            m_Few[i] = bytes[std::min(i, bytes.size() - 1)];
         }
     }
 
-    bool has(int byte) const { return (m_Bits[byte / 64] >> (byte % 64) & 1) != 0; }
+    template <typename Cursor>
+    std::string_view takeInFront(Cursor& cursor) const
+    {
+        if (!m_Bytes.empty() && m_Bytes.size() <= sizeof m_Few)
+        {
+            return cursor.takeUntilOneOf(m_Few);
+        }
+        return cursor.takeUntil([this](int c) { return m_Bytes.find(static_cast<char>(c)) != std::string_view::npos; });
+    }
 
 private:
-    std::uint64_t m_Bits[4] = {};
+    const std::string_view m_Bytes;
+    LmFewBytes m_Few = {};
 };
 
 /// Copies the text with a NUL behind it; where it does not fit, `buffer` gets the empty text.
@@ -62,12 +70,11 @@ bool LmStreamTokenizer::sGetLine(LmInputStream& in, char* buffer, unsigned int s
 
 bool LmStreamTokenizer::sGetToken(LmInputStream& in, const char* delimiters, char* buffer, unsigned int size)
 {
-    const ByteSet stops(delimiters);
+    const Delimiters stops(delimiters);
     return lmWithCursor(in, [&stops, buffer, size](auto& cursor) {
         cursor.skipWhile(lmIsSpace);
         const bool atEnd = cursor.peek() == -1;
-        const auto isStop = [&stops](int c) { return stops.has(c); };
-        return store(cursor.takeUntil(isStop), buffer, size) && !atEnd;
+        return store(stops.takeInFront(cursor), buffer, size) && !atEnd;
     });
 }
 

@@ -35,9 +35,14 @@ public:
     /// Shares the buffer, or owns one that is new.
     explicit LmString(LmStringBuffer& buffer) noexcept : LmHandle(sCounted(&buffer), Adopt()) {}
 
+    ///@{
+    /// Copying shares the buffer; moving leaves the other one empty.
     LmString(const LmString& other) noexcept : LmHandle(sCounted(other.buffer()), Adopt()) {}
     LmString(LmString&& other) noexcept : LmHandle(LmStringBuffer::sEmpty(), Adopt()) { swap(other); }
+    ///@}
 
+    ///@{
+    /// Takes the other value in place of this one; a text as `assign` does.
     LmString& operator=(const LmString& other) noexcept
     {
         LmString copy(other);
@@ -54,6 +59,7 @@ public:
         assign(text);
         return *this;
     }
+    ///@}
 
     ~LmString()
     {
@@ -94,9 +100,13 @@ public:
 
     /// Replaces the text; a null pointer leaves a text whose `c_str` is a null pointer.
     void assign(const char* text) { store(solid()->assign(text)); }
+
+    ///@{
+    /// Puts a text behind this one; nothing for a null pointer. @throws std::bad_alloc
     void append(const char* text) { store(solid()->append(text)); }
     void append(const LmString& text) { store(solid()->append(text.view())); }
     void append(std::string_view text) { store(solid()->append(text)); }
+    ///@}
 
     /// Removes white space at both ends.
     void trim() { store(solid()->trim()); }

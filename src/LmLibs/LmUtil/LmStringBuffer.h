@@ -33,7 +33,11 @@ public:
 
     /// The text with a NUL behind it; a null pointer only after `assign` was given one.
     const char* getText() const { return m_Text; }
+
+    /// In bytes.
     unsigned int getLength() const { return m_Length; }
+
+    /// All bytes, valid until the text changes.
     std::string_view view() const { return {m_Text, m_Length}; }
 
     /// The changing operations give the buffer that holds the result, for the handle they were called through: this
@@ -44,6 +48,8 @@ public:
 
     /// Appends the text; `length` is how much to take of it, 0 for all of it.
     LmStringBuffer* append(const char* text, unsigned int length = 0);
+
+    /// Appends all bytes of the text.
     LmStringBuffer* append(std::string_view text);
 
     /// Removes white space at both ends.

@@ -11,6 +11,7 @@ namespace Srtp
 class HARNWICK_SRTP_API CryptoType
 {
 public:
+    /// A suite; its number is fixed.
     enum eCryptoType
     {
         AES_CM_128_HMAC_SHA1_80 = 0,

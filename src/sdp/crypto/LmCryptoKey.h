@@ -12,14 +12,21 @@
 class LMSDP_API LmCryptoKey
 {
 public:
+    ///@{
+    /// What stands for a number that is not set.
     static constexpr std::uint64_t sm_NoLifetime = ~std::uint64_t(0);
     static constexpr unsigned int sm_NotSet = ~0U;
+    ///@}
 
     /// `lifetime` is in packets, `mkiLength` in bytes. A null key gives the empty text.
     explicit LmCryptoKey(const char* key = "", std::size_t lifetime = sm_NoLifetime, unsigned int mkiValue = sm_NotSet,
                          unsigned int mkiLength = sm_NotSet);
+
+    ///@{
+    /// A copy of every member.
     LmCryptoKey(const LmCryptoKey& other) = default;
     LmCryptoKey& operator=(const LmCryptoKey& other) = default;
+    ///@}
     ~LmCryptoKey() = default;
 
     /// Sets the lifetime to 2 to the `power`. At 64 or above nothing changes.

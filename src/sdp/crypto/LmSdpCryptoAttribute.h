@@ -19,8 +19,10 @@
 class LMSDP_API LmSdpCryptoAttribute : public LmSdpAttribute
 {
 public:
+    /// Has the crypto suites.
     using CryptoType = Quorvex::Srtp::CryptoType;
 
+    /// A blank value.
     LmSdpCryptoAttribute();
 
     /// Reads `text`, which stands behind `a=crypto:` and needs no line end. A null pointer makes a blank value.
@@ -48,10 +50,13 @@ public:
     ///         key; nothing has been written then.
     void serialize(LmOutputStream& out) const override;
 
-    /// All ones when not set.
+    ///@{
+    /// The number by which an answer names this line. All ones when not set.
     unsigned int getTag() const { return m_Tag; }
     void setTag(unsigned int tag);
+    ///@}
 
+    /// `EXTENDED` for a suite that is not known by name, and for none.
     CryptoType::eCryptoType getCryptoSuite() const { return m_CryptoSuite; }
 
     /// The suite's name; valid until the next change.
@@ -63,14 +68,19 @@ public:
     /// Stores the suite of that name; `EXTENDED` with its text when it is not known by name.
     void setCryptoSuite(const char* name);
 
+    ///@{
+    /// In the order of the text; valid until the next change.
     const std::vector<LmCryptoKey>& getKeyVector() const { return m_Keys; }
     const std::vector<LmSecurityDescription>& getSecurityDescriptionVector() const { return m_SecurityDescriptions; }
+    ///@}
 
+    ///@{
     /// What one key holds: its text, its lifetime in packets, and the exponent when that is a power of two of at
     /// least 2 (otherwise 0). For an index without a key they give false and leave `out` as it is.
     bool getEncodedMasterKeySalt(LmString& out, std::size_t index) const;
     bool getKeyLifetime(std::size_t& out, std::size_t index) const;
     bool getKeyLifetimeAsPowerofTwo(unsigned int& out, std::size_t index) const;
+    ///@}
 
     /// Appends a copy.
     void addKey(const LmCryptoKey& key);

@@ -8,6 +8,7 @@
 class LMSDP_API LmSecurityDescription
 {
 public:
+    /// The parameters known by name; the grammar of RFC 4568, section 9.2, has their forms.
     enum ESecurityDescription
     {
         KDR = 0,
@@ -30,13 +31,16 @@ public:
     /// The name follows from the type; it is empty for `UNKNOWN`, `NOT_SET` and any number beyond them.
     LmSecurityDescription(ESecurityDescription type, const char* value);
 
+    ///@{
+    /// A copy of every member.
     LmSecurityDescription(const LmSecurityDescription& other) = default;
     LmSecurityDescription& operator=(const LmSecurityDescription& other) = default;
+    ///@}
     ~LmSecurityDescription() = default;
 
     QUORVEX_MEM_ACCOUNT(LmSecurityDescription)
 
-    LmString m_Name;
-    ESecurityDescription m_Type = NOT_SET;
-    LmString m_Value; ///< the text behind the "="; empty for a parameter without a value
+    LmString m_Name;                       ///< as it stands in the text
+    ESecurityDescription m_Type = NOT_SET; ///< what the name stands for
+    LmString m_Value;                      ///< the text behind the "="; empty for a parameter without a value
 };

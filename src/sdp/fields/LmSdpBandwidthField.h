@@ -24,6 +24,8 @@ public:
 
     /// The text in front of the colon; valid until the next change.
     const char* getType() const { return m_Type.c_str(); }
+
+    /// In the unit of the type.
     unsigned int getAmount() const { return m_Amount; }
 
     /// Replaces the type, which is not looked into, and sets the changed flag.

@@ -23,7 +23,7 @@ std::string_view cut(std::string_view line, std::size_t begin, std::size_t end)
 
 bool isAddress(std::string_view text)
 {
-    return text.find(' ') == s_None || LmInetAddress().initFromAddress(LmString(text).c_str());
+    return lmFindByte(text, ' ') == s_None || LmInetAddress().initFromAddress(LmString(text).c_str());
 }
 
 } // namespace
@@ -75,7 +75,7 @@ void LmSdpConnectionField::parse(LmInputStream& in)
     m_NetworkType = lmSdpText(cut(line, 0, firstBlank));
     setChangedFlag();
 
-    const std::size_t secondBlank = line.find(' ', firstBlank + 1);
+    const std::size_t secondBlank = lmFindByte(line, ' ', firstBlank + 1);
     if (secondBlank == s_None)
     {
         fail(m_AddressType, "LmSdpConnectionField::parse() Incomplete Address Field");

@@ -23,15 +23,19 @@ public:
     explicit LmSdpConnectionField(const char* text);
     ~LmSdpConnectionField() override;
 
+    ///@{
     /// Each value as it stood in the text; valid until the next change.
     const char* getNetworkType() const { return m_NetworkType.c_str(); }
     const char* getAddressType() const { return m_AddressType.c_str(); }
     const char* getAddress() const { return m_Address.c_str(); }
+    ///@}
 
+    ///@{
     /// Each replaces one value, which is not looked into, and sets the changed flag.
     void setNetworkType(const char* text);
     void setAddressType(const char* text);
     void setAddress(const char* text);
+    ///@}
 
     /// Cuts the line at its first two blanks and sets the changed flag.
     /// @throws LmException "LmSdpConnectionField::parse() Incomplete Connection Field" for an empty line; the field is

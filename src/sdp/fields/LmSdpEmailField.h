@@ -23,14 +23,18 @@ public:
     explicit LmSdpEmailField(const char* text);
     ~LmSdpEmailField() override;
 
+    ///@{
     /// Each valid until the next change.
     const char* getEmailId() const { return m_Contact.m_Address.c_str(); }
     const char* getComment() const { return m_Contact.m_Comment.c_str(); }
+    ///@}
 
+    ///@{
     /// Each replaces one value, which is not looked into, and sets the changed flag. The shape stays, so that a
     /// comment shows only in a line that was read with one.
     void setEmailId(const char* text);
     void setComment(const char* text);
+    ///@}
 
     /// Reads the line without white space at its ends, and sets the changed flag. A "(" counts before a "<". A blank
     /// in front of the "(" stays at the end of the address; what stands behind the closing ")" or ">" is dropped.

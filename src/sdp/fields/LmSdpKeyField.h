@@ -24,9 +24,11 @@ public:
     /// The key; empty where the method has none. Valid until the next change.
     const char* getKey() { return m_Key.c_str(); }
 
+    ///@{
     /// Each replaces one value, which is not looked into, and sets the changed flag.
     void setMethod(const char* text);
     void setKey(const char* text);
+    ///@}
 
     /// Reads the line. A line without a key leaves the present key as it is. The changed flag stays.
     /// @throws LmException "LmSdpKeyField::parse() Incomplete Key Field" for an empty line; the field is as it was then

@@ -16,6 +16,7 @@ public:
     explicit LmSdpOriginField(const char* text);
     ~LmSdpOriginField() override;
 
+    ///@{
     /// Each value as it stood in the text; empty when the line had none. Valid until the next change.
     const char* getUsername() { return m_Username.c_str(); }
     const char* getSessionId() { return m_SessionId.c_str(); }
@@ -23,7 +24,9 @@ public:
     const char* getNetworkType() { return m_NetworkType.c_str(); }
     const char* getAddressType() { return m_AddressType.c_str(); }
     const char* getAddress() { return m_Address.c_str(); }
+    ///@}
 
+    ///@{
     /// Each replaces one value, which is not looked into, and sets the changed flag.
     void setUsername(const char* text);
     void setSessionId(const char* text);
@@ -31,6 +34,7 @@ public:
     void setNetworkType(const char* text);
     void setAddressType(const char* text);
     void setAddress(const char* text);
+    ///@}
 
     /// Reads the first six words of the line; words that are missing become empty, and further ones stay unread. The
     /// changed flag stays.

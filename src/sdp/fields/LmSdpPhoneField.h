@@ -26,14 +26,18 @@ public:
     explicit LmSdpPhoneField(const char* text);
     ~LmSdpPhoneField() override;
 
+    ///@{
     /// Each valid until the next change.
     const char* getPhoneNumber() const { return m_Contact.m_Address.c_str(); }
     const char* getComment() const { return m_Contact.m_Comment.c_str(); }
+    ///@}
 
+    ///@{
     /// Each replaces one value, which is not looked into, and sets the changed flag. The shape stays, so that a
     /// comment shows only in a line that was read with one.
     void setPhoneNumber(const char* text);
     void setComment(const char* text);
+    ///@}
 
     /// Reads the line and sets the changed flag. A "(" counts before a "<"; the one character in front of either is
     /// left out. A number of one character is not checked.

@@ -38,7 +38,7 @@ void LmSdpRepeatField::setOffsetList(const char* text)
 
 void LmSdpRepeatField::addOffsets(const char* text)
 {
-    const std::vector<LmString> added = lmWords(lmViewOf(text));
+    const LmSdpWordList added = lmWords(lmViewOf(text));
     m_Offsets.insert(m_Offsets.end(), added.begin(), added.end());
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "sdp/frame/LmSdpField.h"
-
-#include <vector>
+#include "sdp/frame/LmSdpWords.h"
 
 /// The `r=` line: when the session is repeated (RFC 4566, section 5.10). It belongs to the `t=` line in front of it.
 ///
@@ -18,13 +17,17 @@ public:
     explicit LmSdpRepeatField(const char* text);
     ~LmSdpRepeatField() override;
 
+    ///@{
     /// Each valid until the next change.
     const char* getRepeatInterval() { return m_RepeatInterval.c_str(); }
     const char* getActiveDuration() { return m_ActiveDuration.c_str(); }
+    ///@}
 
+    ///@{
     /// Each replaces one value, which is not looked into, and sets the changed flag.
     void setRepeatInterval(const char* text);
     void setActiveDuration(const char* text);
+    ///@}
 
     /// All offsets, each two separated by one blank.
     LmString getOffsetList();
@@ -53,5 +56,5 @@ private:
 
     LmString m_RepeatInterval;
     LmString m_ActiveDuration;
-    std::vector<LmString> m_Offsets;
+    LmSdpWordList m_Offsets;
 };

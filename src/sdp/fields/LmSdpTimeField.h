@@ -21,13 +21,17 @@ public:
     explicit LmSdpTimeField(const char* text);
     ~LmSdpTimeField() override;
 
+    ///@{
     /// Each valid until the next change.
     const char* getStartTime() { return m_StartTime.c_str(); }
     const char* getStopTime() { return m_StopTime.c_str(); }
+    ///@}
 
+    ///@{
     /// Each replaces one time, which is not looked into, and sets the changed flag.
     void setStartTime(const char* text);
     void setStopTime(const char* text);
+    ///@}
 
     /// Reads up to 127 digits, one blank, and up to 127 digits more; either time may have none. What stands behind the
     /// last digit stays unread. The changed flag stays.

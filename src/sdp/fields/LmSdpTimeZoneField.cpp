@@ -130,7 +130,7 @@ private:
 };
 
 /// Appends the pairs of words of the text, and what is left behind the last pair.
-void appendElements(std::vector<LmString>& elements, std::string_view text)
+void appendElements(LmSdpWordList& elements, std::string_view text)
 {
     std::size_t start = 0;
     bool pairEnds = false;
@@ -166,7 +166,7 @@ void LmSdpTimeZoneField::setTimeZoneElements(const char* text)
 {
     if (text != nullptr)
     {
-        std::vector<LmString> elements;
+        LmSdpWordList elements;
         appendElements(elements, text);
         m_TimeZoneElements = std::move(elements);
     }
@@ -181,7 +181,7 @@ void LmSdpTimeZoneField::addTimeZoneElements(const char* text)
 void LmSdpTimeZoneField::parse(LmInputStream& in)
 {
     lmRefuseEmptyLine(in, "LmSdpTimeZoneField::parse() Incomplete Time Zone Field");
-    std::vector<LmString> elements;
+    LmSdpWordList elements;
     appendElements(elements, Reader(in).read());
     m_TimeZoneElements = std::move(elements);
     setChangedFlag();

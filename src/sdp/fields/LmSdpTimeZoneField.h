@@ -1,8 +1,7 @@
 #pragma once
 
 #include "sdp/frame/LmSdpField.h"
-
-#include <vector>
+#include "sdp/frame/LmSdpWords.h"
 
 /// The `z=` line: when the offset from UTC changes (RFC 4566, section 5.11).
 ///
@@ -50,5 +49,5 @@ public:
 private:
     LmSdpTimeZoneField();
 
-    std::vector<LmString> m_TimeZoneElements;
+    LmSdpWordList m_TimeZoneElements;
 };

@@ -9,7 +9,7 @@
 template <typename Link, typename NextOf>
 void lmReleaseChain(LmHandle<Link>& hNext, NextOf nextOf)
 {
-    for (Link* pNext = hNext; pNext != nullptr && pNext->isUnshared(); pNext = hNext)
+    for (Link* pNext = hNext.untested(); pNext != nullptr && pNext->isUnshared(); pNext = hNext.untested())
     {
         LmHandle<Link> hBehind = std::move(nextOf(*pNext));
         hNext = std::move(hBehind);

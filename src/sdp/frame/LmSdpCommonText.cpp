@@ -38,6 +38,52 @@ constexpr const char* s_Words[] = {
 constexpr unsigned int s_PayloadTypes = 128;
 constexpr std::size_t s_LongestWord = 20;
 
+/// What tells two short texts apart at once: their first and their last bytes, which overlap where the text is not
+/// twice as long as a piece, and the length. It tells all of a text up to 16 bytes.
+struct Ends
+{
+    explicit Ends(std::string_view text) : size(text.size())
+    {
+        const char* const begin = text.data();
+        const char* const end = begin + size;
+        if (size >= sizeof(std::uint64_t))
+        {
+            front = load<std::uint64_t>(begin);
+            back = load<std::uint64_t>(end - sizeof(std::uint64_t));
+        }
+        else if (size >= sizeof(std::uint32_t))
+        {
+            front = load<std::uint32_t>(begin);
+            back = load<std::uint32_t>(end - sizeof(std::uint32_t));
+        }
+        else
+        {
+            front = load<std::uint16_t>(begin);
+            back = load<std::uint16_t>(end - sizeof(std::uint16_t));
+        }
+    }
+
+    static constexpr std::size_t sm_Whole = 2 * sizeof(std::uint64_t);
+
+    bool operator==(const Ends& other) const
+    {
+        return front == other.front && back == other.back && size == other.size;
+    }
+
+    std::uint64_t front;
+    std::uint64_t back;
+    std::size_t size;
+
+private:
+    template <typename Word>
+    static Word load(const char* text)
+    {
+        Word word;
+        std::memcpy(&word, text, sizeof word);
+        return word;
+    }
+};
+
 /// An open hash table of the shared texts. Until it has been filled, when the library is loaded, it is empty, and all
 /// texts are copied.
 class CommonTexts
@@ -65,81 +111,55 @@ public:
         {
             return nullptr;
         }
-        std::size_t slot = slotOf(text);
-        while (m_Texts[slot] != nullptr && !isSame(m_Texts[slot]->view(), text))
+        const Ends ends(text);
+        const Entry* entry = &m_Entries[slotOf(ends)];
+        while (entry->pText != nullptr && !entry->is(ends, text))
         {
-            slot = (slot + 1) % sm_Slots;
+            entry = entry == &m_Entries.back() ? &m_Entries.front() : entry + 1;
         }
-        return m_Texts[slot];
+        return entry->pText;
     }
 
 private:
-    static constexpr std::size_t sm_Slots = 1024;
+    static constexpr unsigned int sm_SlotBits = 10;
 
-    template <typename Word>
-    static Word load(const char* text)
+    struct Entry
     {
-        Word word;
-        std::memcpy(&word, text, sizeof word);
-        return word;
-    }
+        bool is(const Ends& other, std::string_view text) const
+        {
+            return ends == other && (text.size() <= Ends::sm_Whole || pText->view() == text);
+        }
 
-    /// Compares two pieces, which overlap where the text is not twice as long as a piece.
-    template <typename Word>
-    static bool isSameAtEnds(const char* left, const char* right, std::size_t size)
-    {
-        const std::size_t last = size - sizeof(Word);
-        return load<Word>(left) == load<Word>(right) && load<Word>(left + last) == load<Word>(right + last);
-    }
+        Ends ends{"  "};
+        LmStringBuffer* pText = nullptr;
+    };
 
-    /// In place, as the words are too short for a function of the C library to pay.
-    static bool isSame(std::string_view left, std::string_view right)
+    /// Multiplied by an odd number, the bits that decide gather at the top.
+    static std::size_t slotOf(const Ends& ends)
     {
-        const std::size_t size = left.size();
-        if (right.size() != size)
-        {
-            return false;
-        }
-        if (size > 2 * sizeof(std::uint64_t))
-        {
-            return left == right;
-        }
-        if (size >= sizeof(std::uint64_t))
-        {
-            return isSameAtEnds<std::uint64_t>(left.data(), right.data(), size);
-        }
-        if (size >= sizeof(std::uint32_t))
-        {
-            return isSameAtEnds<std::uint32_t>(left.data(), right.data(), size);
-        }
-        return isSameAtEnds<std::uint16_t>(left.data(), right.data(), size);
-    }
-
-    /// Every text that is looked up here has two bytes or more.
-    static std::size_t slotOf(std::string_view text)
-    {
-        const std::size_t size = text.size();
-        const auto front = load<std::uint16_t>(text.data());
-        const auto back = load<std::uint16_t>(text.data() + size - sizeof(std::uint16_t));
-        return (front * 5U + back * 37U + size * 71U) % sm_Slots;
+        const std::uint64_t mixed = (ends.front + ends.back * 31 + ends.size) * 0x9E3779B97F4A7C15U;
+        return static_cast<std::size_t>(mixed >> (64 - sm_SlotBits));
     }
 
     void enter(std::string_view text)
     {
+        LmStringBuffer* const pText = LmStringBuffer::sCreateImmortal(text);
         if (text.size() == 1)
         {
-            lmSdpLetters[static_cast<unsigned char>(text.front())] = LmStringBuffer::sCreateImmortal(text);
+            lmSdpLetters[static_cast<unsigned char>(text.front())] = pText;
             return;
         }
-        std::size_t slot = slotOf(text);
-        while (m_Texts[slot] != nullptr)
+        const Ends ends(text);
+        std::size_t slot = slotOf(ends);
+        while (m_Entries[slot].pText != nullptr)
         {
-            slot = (slot + 1) % sm_Slots;
+            slot = (slot + 1) % m_Entries.size();
         }
-        m_Texts[slot] = LmStringBuffer::sCreateImmortal(text);
+        m_Entries[slot].ends = ends;
+        m_Entries[slot].pText = pText;
     }
 
-    std::array<LmStringBuffer*, sm_Slots> m_Texts{};
+    std::array<Entry, std::size_t(1) << sm_SlotBits> m_Entries;
 };
 
 CommonTexts s_CommonTexts;
@@ -148,14 +168,9 @@ const bool s_Filled = (s_CommonTexts.fill(), true);
 
 } // namespace
 
-LmString lmSdpText(std::string_view text)
+LmStringBuffer* lmSdpSharedText(std::string_view text) noexcept
 {
-    if (text.empty())
-    {
-        return LmString();
-    }
-    LmStringBuffer* const pShared = s_CommonTexts.find(text);
-    return pShared != nullptr ? LmString(*pShared) : LmString(text);
+    return s_CommonTexts.find(text);
 }
 
 LmString lmSdpWord(LmInputStream& in)

@@ -6,13 +6,24 @@
 
 #include <string_view>
 
+/// The shared texts of single letters by their code; null for any other, and until the library has been loaded.
+LMSDP_API extern LmStringBuffer* lmSdpLetters[256];
+
+/// The shared text that is the same; null for none, and until the library has been loaded.
+LMSDP_API LmStringBuffer* lmSdpSharedText(std::string_view text) noexcept;
+
 /// A text of a line, as any other LmString. The words that nearly every body has (letters, attribute names, payload
 /// types, encoding names, "IN", "IP4" and the like) are made once and shared, so that they take no memory and no
 /// counting; any other text is copied.
-LMSDP_API LmString lmSdpText(std::string_view text);
-
-/// The shared texts of single letters by their code; null for any other, and until the library has been loaded.
-LMSDP_API extern LmStringBuffer* lmSdpLetters[256];
+inline LmString lmSdpText(std::string_view text)
+{
+    if (text.empty())
+    {
+        return LmString();
+    }
+    LmStringBuffer* const pShared = lmSdpSharedText(text);
+    return pShared != nullptr ? LmString(*pShared) : LmString(text);
+}
 
 /// The token of a line or description; the single letters are shared.
 inline LmString lmSdpToken(const char* token)

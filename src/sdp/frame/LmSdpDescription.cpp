@@ -16,6 +16,11 @@ namespace
 
 Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpDescription");
 
+constexpr bool isLetter(char c)
+{
+    return c >= 'a' && c <= 'z';
+}
+
 /// A one-letter token of what `sDiscardWhite` has shown.
 struct Letter
 {
@@ -27,24 +32,9 @@ struct Letter
     char text[2];
 };
 
-bool isLetter(const char* token)
-{
-    return token != nullptr && token[0] >= 'a' && token[0] <= 'z' && token[1] == '\0';
-}
-
-std::uint32_t bitOf(char letter)
+constexpr std::uint32_t bitOf(char letter)
 {
     return std::uint32_t(1) << (letter - 'a');
-}
-
-std::uint32_t lettersOf(std::string_view fieldTokens)
-{
-    std::uint32_t letters = 0;
-    for (const char letter : fieldTokens)
-    {
-        letters |= letter >= 'a' && letter <= 'z' ? bitOf(letter) : 0;
-    }
-    return letters;
 }
 
 } // namespace
@@ -58,9 +48,12 @@ const std::array<unsigned int, 26> LmSdpDescription::sm_FieldOrder = {
     15, 3, 8, 15, 11, 4, 1, 6, 0, 15, 15, 15, 12};
 
 LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens)
-    : m_Token(lmSdpToken(token))
-    , m_FieldTokens(lmSdpText(lmViewOf(fieldTokens)))
-    , m_Letters(lettersOf(m_FieldTokens.view()))
+    : LmSdpDescription(token, fieldTokens, sLettersOf(lmViewOf(fieldTokens)))
+{
+}
+
+LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens, std::uint32_t letters)
+    : m_Token(lmSdpToken(token)), m_FieldTokens(lmSdpText(lmViewOf(fieldTokens))), m_Letters(letters)
 {
 }
 
@@ -69,19 +62,44 @@ LmSdpDescription::~LmSdpDescription()
     lmReleaseChain(m_Next, [](LmSdpDescription& next) -> LmHandle<LmSdpDescription>& { return next.m_Next; });
 }
 
+/// The slot of the letter with which the token begins; one past the last slot where it has none.
+inline unsigned int LmSdpDescription::sGetFieldPosition(const char* token)
+{
+    if (token == nullptr || !isLetter(token[0]))
+    {
+        return sm_SlotCount;
+    }
+    return sm_FieldOrder[static_cast<unsigned int>(token[0]) - sm_TokenOffset];
+}
+
+/// Nearly all tokens are single letters, for which no search of a text in a text is needed.
+inline bool LmSdpDescription::hasToken(const char* token) const
+{
+    if (token != nullptr && isLetter(token[0]) && token[1] == '\0')
+    {
+        return (m_Letters & bitOf(token[0])) != 0;
+    }
+    return m_FieldTokens.indexOf(token, 0) != -1;
+}
+
+/// The slot for a field of that token; one past the last slot where it does not belong here.
+inline unsigned int LmSdpDescription::ownSlot(const char* token) const
+{
+    const unsigned int slot = sGetFieldPosition(token);
+    return slot < sm_SlotCount && hasToken(token) ? slot : sm_SlotCount;
+}
+
 bool LmSdpDescription::isFieldInDescription(const char* token)
 {
     return hasToken(token);
 }
 
-/// Nearly all tokens are single letters, for which no search of a text in a text is needed.
-bool LmSdpDescription::hasToken(const char* token) const
+/// True when the next line, shown behind any white space, has a letter that belongs here and begins no description.
+inline bool LmSdpDescription::isOwnLineNext(LmInputStream& in) const
 {
-    if (isLetter(token))
-    {
-        return (m_Letters & bitOf(token[0])) != 0;
-    }
-    return m_FieldTokens.indexOf(token, 0) != -1;
+    const Letter letter(LmStreamTokenizer::sDiscardWhite(in));
+    return !letter.isEndOfInput() && hasToken(letter.text) &&
+           (sm_ConstructorMap == nullptr || sm_ConstructorMap->find(letter.text) == nullptr);
 }
 
 LmHandle<LmSdpField> LmSdpDescription::getField(const char* token) const
@@ -100,14 +118,13 @@ void LmSdpDescription::addField(const LmHandle<LmSdpField>& hField)
 
 void LmSdpDescription::file(LmHandle<LmSdpField>&& hField)
 {
-    LmSdpField* const pField = hField;
-    const char* const token = pField->getToken();
-    const unsigned int slot = sGetFieldPosition(token);
-    if (slot >= sm_SlotCount || !hasToken(token))
+    LmSdpField* const pField = hField.untested();
+    const unsigned int slot = ownSlot(pField->getToken());
+    if (slot >= sm_SlotCount)
     {
         LmException::sThrow("field doesn't belong in this description type LmSdpDescription::addField()");
     }
-    LmSdpField* const pFirst = m_Fields[slot];
+    LmSdpField* const pFirst = m_Fields[slot].untested();
     if (pFirst == nullptr)
     {
         m_Fields[slot] = std::move(hField);
@@ -163,7 +180,8 @@ void LmSdpDescription::serializeSlots(LmOutputStream& out, unsigned int first, u
 {
     for (unsigned int slot = first; slot < end; ++slot)
     {
-        for (const LmSdpField* pField = m_Fields[slot]; pField != nullptr; pField = pField->m_Next)
+        for (const LmSdpField* pField = m_Fields[slot].untested(); pField != nullptr;
+             pField = pField->m_Next.untested())
         {
             pField->serialize(out);
         }
@@ -174,7 +192,7 @@ bool LmSdpDescription::isAnyFieldChanged(unsigned int first, unsigned int end) c
 {
     for (unsigned int slot = first; slot < end; ++slot)
     {
-        for (LmSdpField* pField = m_Fields[slot]; pField != nullptr; pField = pField->m_Next)
+        for (LmSdpField* pField = m_Fields[slot].untested(); pField != nullptr; pField = pField->m_Next.untested())
         {
             if (pField->getChangedFlag())
             {
@@ -207,7 +225,7 @@ void LmSdpDescription::addNext(LmHandle<LmSdpDescription> hNext)
 
 LmSdpDescription* LmSdpDescription::last()
 {
-    while (LmSdpDescription* const pNext = m_Tail->m_Next)
+    while (LmSdpDescription* const pNext = m_Tail->m_Next.untested())
     {
         m_Tail = pNext;
     }
@@ -222,22 +240,4 @@ bool LmSdpDescription::isBehind(const LmSdpDescription* pDescription) const
         pNext = pNext->m_Next;
     }
     return pNext != nullptr;
-}
-
-/// True when the next line, shown behind any white space, has a letter that belongs here and begins no description.
-bool LmSdpDescription::isOwnLineNext(LmInputStream& in) const
-{
-    const Letter letter(LmStreamTokenizer::sDiscardWhite(in));
-    return !letter.isEndOfInput() && hasToken(letter.text) &&
-           (sm_ConstructorMap == nullptr || sm_ConstructorMap->find(letter.text) == nullptr);
-}
-
-/// The slot of the letter with which the token begins; one past the last slot where it has none.
-unsigned int LmSdpDescription::sGetFieldPosition(const char* token)
-{
-    if (token == nullptr || token[0] < 'a' || token[0] > 'z')
-    {
-        return sm_SlotCount;
-    }
-    return sm_FieldOrder[static_cast<unsigned int>(token[0]) - sm_TokenOffset];
 }

@@ -5,11 +5,13 @@
 #include "LmLibs/LmUtil/LmOutputStream.h"
 #include "LmLibs/LmUtil/LmSerializable.h"
 #include "LmLibs/LmUtil/LmString.h"
+#include "core/ThreadHeapOperators.h"
 #include "sdp/LmSdpExport.h"
 #include "sdp/frame/LmSdpField.h"
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 template <typename Product>
 class LmSdpRegistry;
@@ -20,7 +22,7 @@ class LmSdpRegistry;
 /// It has one slot for each letter, in the order in which lines are written: v t m o s i u e p c b r z k a. A further
 /// line of a letter is chained behind the first. Descriptions of one kind are chained as well. Nothing can be taken
 /// out again. Not safe for use by two threads at once.
-class LMSDP_API LmSdpDescription : public LmObject, public LmSerializable
+class LMSDP_API LmSdpDescription : public LmObject, public LmSerializable, public Quorvex::ThreadHeapOperators
 {
 public:
     /// Makes a description of its own class.
@@ -77,10 +79,27 @@ public:
     void serialize(LmOutputStream& out) const override;
 
 protected:
+    /// One slot for each letter.
     static constexpr unsigned int sm_SlotCount = 15;
+
+    /// The letters a to z among the field tokens, one bit each.
+    static constexpr std::uint32_t sLettersOf(std::string_view fieldTokens)
+    {
+        std::uint32_t letters = 0;
+        for (const char letter : fieldTokens)
+        {
+            letters |= letter >= 'a' && letter <= 'z' ? std::uint32_t(1) << (letter - 'a') : 0;
+        }
+        return letters;
+    }
+
+    /// For a class whose letters were made when it was compiled.
+    LmSdpDescription(const char* token, const char* fieldTokens, std::uint32_t letters);
 
     /// Writes the lines of the slots from `first` up to, but not including, `end`.
     void serializeSlots(LmOutputStream& out, unsigned int first, unsigned int end) const;
+
+    /// Whether any line of those slots has its changed flag set.
     bool isAnyFieldChanged(unsigned int first, unsigned int end) const;
 
 private:
@@ -96,6 +115,7 @@ private:
     void file(LmHandle<LmSdpField>&& hField);
     bool isOwnLineNext(LmInputStream& in) const;
     bool hasToken(const char* token) const;
+    unsigned int ownSlot(const char* token) const;
     static unsigned int sGetFieldPosition(const char* token);
 
     static const unsigned int sm_TokenOffset;
@@ -107,8 +127,7 @@ private:
     LmString m_FieldTokens;
     LmHandle<LmSdpDescription> m_Next;
 
-    /// The letters a to z among the field tokens, one bit each.
-    std::uint32_t m_Letters;
+    std::uint32_t m_Letters; ///< as `sLettersOf` gives
 
     /// Where the search for the last description begins: one that was the last when it was looked for.
     LmSdpDescription* m_Tail = this;

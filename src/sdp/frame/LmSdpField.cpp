@@ -49,12 +49,13 @@ LmHandle<LmSdpField> LmSdpField::sConstructFrom(LmInputStream& in)
     QUORVEX_LOG(pLogger, Quorvex::eDebug, "LmSdpField", "tokenBuf=" << tokenBuf << "|");
 
     const Constructor constructor = sm_pConstructorMap == nullptr ? nullptr : sm_pConstructorMap->find(tokenBuf);
-    LmHandle<LmSdpField> hField = constructor == nullptr ? nullptr : constructor();
-    if (hField.isNull())
+    LmSdpField* pField = constructor == nullptr ? nullptr : constructor();
+    if (pField == nullptr)
     {
-        hField = new LmSdpUnusedField(tokenBuf);
+        pField = new LmSdpUnusedField(tokenBuf);
     }
-    hField->parse(in);
+    LmHandle<LmSdpField> hField(pField);
+    pField->parse(in);
     return hField;
 }
 
@@ -67,18 +68,4 @@ void LmSdpField::change(LmString& member, const char* text)
 {
     member = LmString(text);
     setChangedFlag();
-}
-
-void LmSdpField::addNext(LmHandle<LmSdpField> hNext)
-{
-    last()->m_Next = std::move(hNext);
-}
-
-LmSdpField* LmSdpField::last()
-{
-    while (LmSdpField* const pNext = m_Tail->m_Next)
-    {
-        m_Tail = pNext;
-    }
-    return m_Tail;
 }

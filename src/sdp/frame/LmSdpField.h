@@ -5,8 +5,11 @@
 #include "LmLibs/LmUtil/LmOutputStream.h"
 #include "LmLibs/LmUtil/LmSerializable.h"
 #include "LmLibs/LmUtil/LmString.h"
+#include "core/ThreadHeapOperators.h"
 #include "sdp/LmSdpExport.h"
 #include "sdp/frame/LmSdpCommonText.h"
+
+#include <utility>
 
 template <typename Product>
 class LmSdpRegistry;
@@ -15,7 +18,7 @@ class LmSdpRegistry;
 ///
 /// Lines of one letter that stand in one description are chained; each owns the next. A field, with its chain, is not
 /// safe for use by two threads at once.
-class LMSDP_API LmSdpField : public LmObject, public LmSerializable
+class LMSDP_API LmSdpField : public LmObject, public LmSerializable, public Quorvex::ThreadHeapOperators
 {
 public:
     /// Makes a line of its own class.
@@ -59,17 +62,27 @@ protected:
     /// flag.
     void change(LmString& member, const char* text);
 
+    ///@{
+    /// What `getChangedFlag` gives from now on.
     void setChangedFlag() { m_ChangedFlag = true; }
     void clearChangedFlag() { m_ChangedFlag = false; }
+    ///@}
 
 private:
     friend class LmSdpDescription;
 
     /// Appends at the tail of the chain that begins here.
-    void addNext(LmHandle<LmSdpField> hNext);
+    void addNext(LmHandle<LmSdpField>&& hNext) { last()->m_Next = std::move(hNext); }
 
     /// The last link of the chain that begins here.
-    LmSdpField* last();
+    LmSdpField* last()
+    {
+        while (LmSdpField* const pNext = m_Tail->m_Next.untested())
+        {
+            m_Tail = pNext;
+        }
+        return m_Tail;
+    }
 
     static LmSdpRegistry<LmSdpField>* sm_pConstructorMap;
 

@@ -29,10 +29,23 @@ inline void lmRefuseEmptyLine(LmInputStream& in, const char* message)
     }
 }
 
+/// Writes what stands in front of a line's value: the letter and "=".
+inline void lmWriteToken(LmOutputStream& out, const LmSdpField& field)
+{
+    const char* const token = field.getToken();
+    if (token[0] != '\0' && token[1] == '\0')
+    {
+        const char letter[] = {token[0], '='};
+        out.writeAll({letter, sizeof letter});
+        return;
+    }
+    out << token << "=";
+}
+
 /// Writes one whole line: the letter, "=", the parts of the value and the line end.
 template <typename... Parts>
 void lmWriteLine(LmOutputStream& out, const LmSdpField& field, const Parts&... parts)
 {
-    out << field.getToken() << "=";
+    lmWriteToken(out, field);
     (out << ... << parts) << "\r\n";
 }

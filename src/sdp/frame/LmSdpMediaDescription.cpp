@@ -1,6 +1,18 @@
 #include "sdp/frame/LmSdpMediaDescription.h"
 
-LmSdpMediaDescription::LmSdpMediaDescription() : LmSdpDescription("m", "micbka") {}
+#include <type_traits>
+
+namespace
+{
+
+constexpr const char* s_FieldTokens = "micbka";
+
+} // namespace
+
+LmSdpMediaDescription::LmSdpMediaDescription()
+    : LmSdpDescription("m", s_FieldTokens, std::integral_constant<std::uint32_t, sLettersOf(s_FieldTokens)>::value)
+{
+}
 
 LmSdpMediaDescription::~LmSdpMediaDescription() = default;
 

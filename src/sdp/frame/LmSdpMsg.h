@@ -34,6 +34,7 @@ public:
     /// Reads a text, as `parse` does. A null pointer makes an empty message.
     explicit LmSdpMsg(const char* text);
 
+    ///@{
     /// Puts a message together from ready-made lines, with `v=0` in front. Each handle may be empty.
     LmSdpMsg(const LmHandle<LmSdpOriginField>& hOrigin, const LmHandle<LmSdpSessionNameField>& hSessionName,
              const LmHandle<LmSdpEmailField>& hEmail, const LmHandle<LmSdpConnectionField>& hConnection,
@@ -41,6 +42,7 @@ public:
     LmSdpMsg(const LmHandle<LmSdpOriginField>& hOrigin, const LmHandle<LmSdpSessionNameField>& hSessionName,
              const LmHandle<LmSdpPhoneField>& hPhone, const LmHandle<LmSdpConnectionField>& hConnection,
              const LmHandle<LmSdpTimeDescription>& hTime, const LmHandle<LmSdpMediaDescription>& hMedia);
+    ///@}
 
     ~LmSdpMsg() override;
 
@@ -75,13 +77,16 @@ public:
     /// The first session-level line of a letter, whatever its class; the others follow by `getNext`.
     LmHandle<LmSdpField> getField(const char* token);
 
+    ///@{
     /// The first description of its kind; the others follow by `getNext`.
     LmHandle<LmSdpTimeDescription> getTimeDescription();
     LmHandle<LmSdpMediaDescription> getMediaDescription();
+    ///@}
 
     /// The first media description whose `m=` line lists the format: a payload type, not a place in the chain.
     LmHandle<LmSdpMediaDescription> getMediaDescription(unsigned int format);
 
+    ///@{
     /// The first session-level line of each letter; an empty handle when there is none, or when the first one is of
     /// another class.
     LmHandle<LmSdpProtocolVersionField> getProtocolVersionField();
@@ -96,6 +101,7 @@ public:
     LmHandle<LmSdpTimeZoneField> getTimeZoneField();
     LmHandle<LmSdpKeyField> getKeyField();
     LmHandle<LmSdpAttributeField> getAttributeField();
+    ///@}
 
     QUORVEX_MEM_ACCOUNT(LmSdpMsg)
 

@@ -7,8 +7,11 @@
 class LMSDP_API LmSdpParseError : public LmException
 {
 public:
+    ///@{
+    /// An error with that message; the empty one for none and for a null pointer.
     LmSdpParseError();
     explicit LmSdpParseError(const char* message);
+    ///@}
     ~LmSdpParseError() override;
 
     /// Throws an LmSdpParseError with that message.

@@ -7,11 +7,14 @@
 #include "core/TraceScope.h"
 
 #include <cstring>
+#include <type_traits>
 
 namespace
 {
 
 Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpSessionDescription");
+
+constexpr const char* s_FieldTokens = "vosiuepcbzka";
 
 /// The time descriptions are written in front of this slot, that of `z=`.
 constexpr unsigned int s_SlotBehindTimes = 12;
@@ -23,7 +26,10 @@ bool isToken(const char* token, const char* letter)
 
 } // namespace
 
-LmSdpSessionDescription::LmSdpSessionDescription() : LmSdpDescription("v", "vosiuepcbzka") {}
+LmSdpSessionDescription::LmSdpSessionDescription()
+    : LmSdpDescription("v", s_FieldTokens, std::integral_constant<std::uint32_t, sLettersOf(s_FieldTokens)>::value)
+{
+}
 
 LmSdpSessionDescription::~LmSdpSessionDescription() = default;
 

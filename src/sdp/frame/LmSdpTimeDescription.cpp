@@ -1,6 +1,18 @@
 #include "sdp/frame/LmSdpTimeDescription.h"
 
-LmSdpTimeDescription::LmSdpTimeDescription() : LmSdpDescription("t", "tr") {}
+#include <type_traits>
+
+namespace
+{
+
+constexpr const char* s_FieldTokens = "tr";
+
+} // namespace
+
+LmSdpTimeDescription::LmSdpTimeDescription()
+    : LmSdpDescription("t", s_FieldTokens, std::integral_constant<std::uint32_t, sLettersOf(s_FieldTokens)>::value)
+{
+}
 
 LmSdpTimeDescription::~LmSdpTimeDescription() = default;
 

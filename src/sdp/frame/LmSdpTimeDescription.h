@@ -22,6 +22,8 @@ public:
     void parse(LmInputStream& in) override;
 
     using LmSdpDescription::serialize;
+
+    /// The same for a caller who may change the description.
     virtual void serialize(LmOutputStream& out);
 
     /// The class that the letter "t" begins.

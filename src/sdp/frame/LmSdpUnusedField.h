@@ -6,6 +6,7 @@
 class LMSDP_API LmSdpUnusedField : public LmSdpField
 {
 public:
+    /// Takes letter and text as they stand. A null pointer gives the empty text.
     LmSdpUnusedField(const char* token, const char* value);
     ~LmSdpUnusedField() override;
 

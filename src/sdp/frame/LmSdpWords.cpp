@@ -11,9 +11,9 @@ constexpr unsigned int s_ListCapacity = 256;
 
 } // namespace
 
-std::vector<LmString> lmWords(std::string_view text)
+LmSdpWordList lmWords(std::string_view text)
 {
-    std::vector<LmString> words;
+    LmSdpWordList words;
     words.reserve(1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ' ')));
     std::size_t start = 0;
     for (std::size_t blank = text.find(' '); blank != std::string_view::npos; blank = text.find(' ', start))
@@ -28,7 +28,7 @@ std::vector<LmString> lmWords(std::string_view text)
     return words;
 }
 
-LmString lmJoinWords(const std::vector<LmString>& words)
+LmString lmJoinWords(const LmSdpWordList& words)
 {
     LmString joined(*LmStringBuffer::sCreate(std::string_view(), s_ListCapacity));
     for (const LmString& word : words)

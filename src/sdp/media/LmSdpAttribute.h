@@ -7,6 +7,8 @@
 #include "core/MemAccountOperators.h"
 #include "sdp/LmSdpExport.h"
 
+#include <string_view>
+
 /// The value of an `a=` line (RFC 4566, section 5.13): text that is not looked into. Classes that know a value's
 /// structure derive from this one and build the text from their members when it is asked for.
 ///
@@ -19,6 +21,9 @@ public:
 
     /// A copy of the text; a null pointer gives an empty value.
     explicit LmSdpAttribute(const char* value);
+
+    /// A copy of the bytes.
+    explicit LmSdpAttribute(std::string_view value) : m_Value(value) {}
 
     /// Shares the text.
     explicit LmSdpAttribute(LmString value);
@@ -39,8 +44,13 @@ public:
     QUORVEX_MEM_ACCOUNT(LmSdpAttribute)
 
 protected:
+    ///@{
+    /// Whether a member has changed since the text was built.
     void setChangedFlag(bool changed) { m_ChangedFlag = changed; }
     void clearChangedFlag() const { m_ChangedFlag = false; }
+    ///@}
+
+    /// The text of the members as they are now.
     void setBuiltValue(const LmString& value) const { m_Value = value; }
 
     /// The text that was last built or given, however old it is.

@@ -58,11 +58,10 @@ void LmSdpAttributeField::parse(LmInputStream& in)
 {
     lmRefuseEmptyLine(in, "LmSdpAttributeField::parse Incomplete Attribute Field");
     const LmLine line(in);
-    const std::size_t colon = lmFindByte(line.view(), ':');
-    m_Name = lmSdpText(line.view().substr(0, colon));
-    if (colon != std::string_view::npos)
+    m_Name = lmSdpText(line.inFrontOfColon());
+    if (line.hasColon())
     {
-        m_Attribute = lmSdpAttributeValue(m_Name.view(), lmUpToNul(line.view().substr(colon + 1)));
+        m_Attribute = lmSdpAttributeValue(line.inFrontOfColon(), line.behindColon());
     }
 }
 
@@ -74,7 +73,8 @@ void LmSdpAttributeField::serialize(LmOutputStream& out) const
         lmWriteLine(out, *this, m_Name);
         return;
     }
-    out << getToken() << "=" << m_Name << ":";
+    lmWriteToken(out, *this);
+    out << m_Name << ":";
     const LmSdpAttribute& value = *m_Attribute;
     value.serialize(out);
     out << "\r\n";

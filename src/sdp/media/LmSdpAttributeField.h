@@ -38,6 +38,7 @@ public:
     /// Replaces the name, which is not looked into, and sets the changed flag. The class of the value stays.
     void setName(const char* name);
 
+    /// Whether there is a value object.
     bool hasValue() const { return !m_Attribute.isNull(); }
 
     /// The value as text; empty when there is none.

@@ -189,7 +189,7 @@ void LmSdpMediaField::takePort(std::string_view token)
     setNumberOfPorts(static_cast<unsigned int>(lmAtoi(number)));
 }
 
-LmSdpMediaField::Formats::iterator LmSdpMediaField::find(unsigned int format)
+LmSdpWordList::iterator LmSdpMediaField::find(unsigned int format)
 {
     return std::find_if(m_MediaFormats.begin(), m_MediaFormats.end(),
                         [format](const LmString& entry) { return lmAtoi(entry.view()) == static_cast<int>(format); });

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "sdp/frame/LmSdpField.h"
+#include "sdp/frame/LmSdpWords.h"
 
 #include <string_view>
-#include <vector>
 
 /// The `m=` line: one medium with its port, transport and formats (RFC 4566, section 5.14).
 ///
@@ -20,26 +20,34 @@ public:
     explicit LmSdpMediaField(const char* text);
     ~LmSdpMediaField() override;
 
-    /// Each text valid until the next change.
+    /// The media word, such as "audio"; valid until the next change.
     const char* getMediaType() const { return m_MediaType.c_str(); }
+
+    /// The first port; 0 when the medium is refused, or the text was no number.
     unsigned int getPort() const { return m_Port; }
 
     /// 0 when the line has no number of ports.
     unsigned int getNumberOfPorts() const { return m_NumberOfPorts; }
+
+    /// The transport, such as "RTP/AVP"; valid until the next change.
     const char* getTransport() const { return m_Transport.c_str(); }
 
     /// All formats, each two separated by one blank.
     LmString getMediaFormats();
 
+    ///@{
     /// Each replaces one value, which is not looked into, and sets the changed flag.
     void setMediaType(const char* text);
     void setPort(unsigned int port);
     void setNumberOfPorts(unsigned int number);
     void setTransport(const char* text);
+    ///@}
 
+    ///@{
     /// The same with the number that `atoi` finds in the text. A null pointer changes nothing.
     void setPort(const char* text);
     void setNumberOfPorts(const char* text);
+    ///@}
 
     /// Replaces the formats by the words of the text, which blanks separate, and sets the changed flag. A text that is
     /// empty or ends in a blank, and a null pointer, give an empty last format.
@@ -71,16 +79,14 @@ public:
     static LmSdpField* sConstruct();
 
 private:
-    using Formats = std::vector<LmString>;
-
     LmSdpMediaField();
 
     void takePort(std::string_view token);
-    Formats::iterator find(unsigned int format);
+    LmSdpWordList::iterator find(unsigned int format);
 
     LmString m_MediaType;
     unsigned int m_Port = 0;
     unsigned int m_NumberOfPorts = 0;
     LmString m_Transport;
-    Formats m_MediaFormats;
+    LmSdpWordList m_MediaFormats;
 };

@@ -81,7 +81,7 @@ void LmSdpRtpAttribute::read(std::string_view line)
     }
     setPayloadType(static_cast<unsigned int>(lmAtoi(line.substr(0, blank))));
 
-    const std::size_t slash = line.find('/', blank + 1);
+    const std::size_t slash = lmFindByte(line, '/', blank + 1);
     if (slash == s_None)
     {
         LmSdpParseError::sThrow("RTP attribute encoding name: Slash not found or misplaced");
@@ -95,7 +95,7 @@ void LmSdpRtpAttribute::read(std::string_view line)
     }
     setClockRate(static_cast<unsigned int>(lmAtoi(rest)));
 
-    const std::size_t secondSlash = rest.find('/');
+    const std::size_t secondSlash = lmFindByte(rest, '/');
     const std::string_view third = secondSlash == s_None ? std::string_view() : rest.substr(secondSlash + 1);
     if (const int channels = lmAtoi(third); channels != 0)
     {

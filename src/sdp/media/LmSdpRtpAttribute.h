@@ -23,27 +23,36 @@ public:
     explicit LmSdpRtpAttribute(std::string_view line);
     ~LmSdpRtpAttribute() override;
 
+    /// The payload type: the number in each RTP packet, and among the formats of the `m=` line.
     unsigned int getPayloadType() { return m_PayloadType; }
 
-    /// Each text valid until the next change.
+    /// The name, such as "PCMU"; valid until the next change.
     const char* getEncodingName() { return m_EncodingName.c_str(); }
+
+    /// In Hz.
     unsigned int getClockRate() { return m_ClockRate; }
 
     /// 0 when there is none.
     unsigned int getNumberOfChannels() { return m_NumberOfChannels; }
+
+    /// What stands in the third part when that is no number of channels; valid until the next change.
     const char* getEncodingParameters() { return m_EncodingParameters.c_str(); }
 
+    ///@{
     /// Each replaces one value, which is not looked into, and is seen in `getValue` and `serialize`.
     void setPayloadType(unsigned int payloadType);
     void setEncodingName(const char* text);
     void setClockRate(unsigned int clockRate);
     void setNumberOfChannels(unsigned int channels);
     void setEncodingParameters(const char* text);
+    ///@}
 
+    ///@{
     /// The same with the number that `atoi` finds in the text. A null pointer changes nothing.
     void setPayloadType(const char* text);
     void setClockRate(const char* text);
     void setNumberOfChannels(const char* text);
+    ///@}
 
     /// Reads the rest of the line.
     /// @throws LmSdpParseError "RTP attribute payload type: Space not found or misplaced" for a line without a blank,
