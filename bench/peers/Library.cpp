@@ -1,0 +1,63 @@
+// This library.
+
+#include "LmSdpObject.h"
+#include "peers/Peer.h"
+
+namespace
+{
+
+class Library : public Peer
+{
+public:
+    Content content(const std::string& body) override
+    {
+        LmSdpMsg msg;
+        parse(msg, body);
+        Content content;
+        count(msg.getAttributeField(), content);
+        for (LmHandle<LmSdpMediaDescription> hMedia = msg.getMediaDescription(); hMedia; hMedia = hMedia->getNext())
+        {
+            ++content.sections;
+            count(hMedia->getField("a"), content);
+        }
+        return content;
+    }
+
+    void read(const std::string& body) override
+    {
+        LmSdpMsg msg;
+        parse(msg, body);
+    }
+
+    std::size_t readAndWrite(const std::string& body) override
+    {
+        LmSdpMsg msg;
+        parse(msg, body);
+        LmStringOutputStream out;
+        msg.serialize(out);
+        return out.getString().length();
+    }
+
+private:
+    static void count(LmHandle<LmSdpField> hField, Content& content)
+    {
+        for (; hField; hField = hField->getNext())
+        {
+            ++content.attributes;
+        }
+    }
+
+    static void parse(LmSdpMsg& msg, const std::string& body)
+    {
+        const LmHandle<LmByteArray> hBytes = LmByteArray::sCreate(static_cast<unsigned int>(body.size()), body.data());
+        LmByteArrayInputStream in(hBytes, 0, 0);
+        msg.parse(in);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Peer> makePeer()
+{
+    return std::make_unique<Library>();
+}
