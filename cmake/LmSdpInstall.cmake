@@ -47,3 +47,14 @@ configure_file("${CMAKE_CURRENT_LIST_DIR}/LmSdpObject.pc.in" "${PROJECT_BINARY_D
 install(FILES "${PROJECT_BINARY_DIR}/LmSdpObject.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
     COMPONENT Development)
+
+# The documents, with the examples beside them, so that the links between them hold. A source package may lack some.
+set(lmsdp_doc_dir "${CMAKE_INSTALL_DATADIR}/doc/LmSdpObject")
+foreach(page IN ITEMS README.md CHANGELOG.md CONTRIBUTING.md)
+    install(FILES "${PROJECT_SOURCE_DIR}/${page}" DESTINATION "${lmsdp_doc_dir}" COMPONENT Documentation OPTIONAL)
+endforeach()
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs" "${PROJECT_SOURCE_DIR}/examples"
+    DESTINATION "${lmsdp_doc_dir}"
+    COMPONENT Documentation
+    OPTIONAL
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.properties" PATTERN "*.cpp")

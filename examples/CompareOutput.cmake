@@ -1,7 +1,13 @@
-# Runs PROGRAM and compares what it prints with the file EXPECTED. CR LF counts as LF. What differs from run to run, the
-# time and the address of this host in a local body, stands there as TIME and HOST.
+# Runs PROGRAM, with the file INPUT as its standard input if one is named, and compares what it prints, on standard
+# error too, with the file EXPECTED. CR LF counts as LF. What differs from run to run, the time and the address of this
+# host in a local body, stands there as TIME and HOST.
 
-execute_process(COMMAND "${PROGRAM}" OUTPUT_VARIABLE printed RESULT_VARIABLE result)
+set(input "")
+if(INPUT)
+    set(input INPUT_FILE "${INPUT}")
+endif()
+execute_process(COMMAND "${PROGRAM}" ${input}
+    OUTPUT_VARIABLE printed ERROR_VARIABLE printed RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "${PROGRAM} ended with ${result}")
 endif()

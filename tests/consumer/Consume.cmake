@@ -28,7 +28,7 @@ if(STEP STREQUAL "install")
     file(REMOVE_RECURSE "${staged}" "${prefix}")
     run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${staged})
     file(RENAME "${staged}" "${prefix}")
-    if(TOOLS AND EXISTS "${prefix}/bin/lmsdp")
+    if(EXISTS "${prefix}/bin/lmsdp")
         run(${prefix}/bin/lmsdp --version)
     endif()
 

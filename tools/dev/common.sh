@@ -1,4 +1,4 @@
-# What ./run, ./check and .ci/run have in common. To be sourced, by a script that has set `root`.
+# What ./run, ./check, .ci/run and tools/dev/package have in common. To be sourced, by a script that has set `root`.
 
 set -euo pipefail
 script=$(realpath -- "$0")
@@ -6,7 +6,8 @@ cd "$root"
 
 jobs=$(nproc)
 packages_to_build=(g++ cmake ninja-build liblog4cplus-dev libace-dev libcli11-dev nlohmann-json3-dev)
-packages_to_test=(libgtest-dev libgmock-dev pkg-config python3 sip-tester ffmpeg)
+packages_to_pack=(dpkg-dev file)
+packages_to_test=(libgtest-dev libgmock-dev pkg-config python3 sip-tester ffmpeg "${packages_to_pack[@]}")
 
 say() { printf '== %s\n' "$*" >&2; }
 
