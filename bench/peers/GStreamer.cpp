@@ -4,7 +4,6 @@
 
 #include <gst/sdp/gstsdpmessage.h>
 
-#include <cstring>
 #include <stdexcept>
 
 namespace
@@ -51,13 +50,12 @@ public:
 
     void read(const std::string& body) override { const Message message(body); }
 
-    std::size_t readAndWrite(const std::string& body) override
+    void readAndWrite(const std::string& body, const Sink& sink) override
     {
         const Message message(body);
         gchar* const text = gst_sdp_message_as_text(message.get());
-        const std::size_t length = std::strlen(text);
+        sink(text);
         g_free(text);
-        return length;
     }
 };
 

@@ -29,13 +29,14 @@ public:
         parse(msg, body);
     }
 
-    std::size_t readAndWrite(const std::string& body) override
+    void readAndWrite(const std::string& body, const Sink& sink) override
     {
         LmSdpMsg msg;
         parse(msg, body);
         LmStringOutputStream out;
         msg.serialize(out);
-        return out.getString().length();
+        const LmString text = out.getString();
+        sink({text.c_str(), text.length()});
     }
 
 private:

@@ -5,7 +5,6 @@
 #include <osipparser2/osip_parser.h>
 #include <osipparser2/sdp_message.h>
 
-#include <cstring>
 #include <stdexcept>
 
 namespace
@@ -55,7 +54,7 @@ public:
 
     void read(const std::string& body) override { const Message message(body); }
 
-    std::size_t readAndWrite(const std::string& body) override
+    void readAndWrite(const std::string& body, const Sink& sink) override
     {
         const Message message(body);
         char* text = nullptr;
@@ -63,9 +62,8 @@ public:
         {
             throw std::runtime_error("cannot be written");
         }
-        const std::size_t length = std::strlen(text);
+        sink(text);
         osip_free(text);
-        return length;
     }
 };
 

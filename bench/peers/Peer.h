@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 /// One SDP library, used as its own users would. Each is linked into a program of its own.
 class Peer
@@ -12,7 +15,14 @@ public:
     {
         std::size_t sections = 0;
         std::size_t attributes = 0;
+
+        /// Lines that a tree says by other means than an attribute, such as `a=sendonly`: of the session and then of
+        /// each section. Only those count that the body has.
+        std::vector<std::vector<std::string>> implied = {{}};
     };
+
+    /// Takes a text that a library has written, while that is there.
+    using Sink = std::function<void(std::string_view text)>;
 
     virtual ~Peer() = default;
 
@@ -22,8 +32,8 @@ public:
     /// Reads a body and releases its tree.
     virtual void read(const std::string& body) = 0;
 
-    /// Reads a body, writes it into memory and releases its tree. Gives the length of what was written.
-    virtual std::size_t readAndWrite(const std::string& body) = 0;
+    /// Reads a body, writes it into memory and releases its tree.
+    virtual void readAndWrite(const std::string& body, const Sink& sink) = 0;
 };
 
 /// The library that this program is linked with.

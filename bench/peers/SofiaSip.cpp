@@ -1,9 +1,8 @@
-// sofia-sip: a session in a home of its own, printed into memory that the printer takes.
+// sofia-sip: a session in the home of its parser, printed into memory that the printer takes.
 
 #include "peers/Peer.h"
 
 #include <sofia-sip/sdp.h>
-#include <sofia-sip/su_alloc.h>
 
 #include <stdexcept>
 
@@ -14,31 +13,26 @@ class Session
 {
 public:
     explicit Session(const std::string& body)
-        : m_Home(static_cast<su_home_t*>(su_home_new(sizeof(su_home_t))))
-        , m_Parser(sdp_parse(m_Home, body.data(), static_cast<issize_t>(body.size()), 0))
+        : m_Parser(sdp_parse(nullptr, body.data(), static_cast<issize_t>(body.size()), 0))
     {
         if (get() == nullptr)
         {
-            throw std::runtime_error(sdp_parsing_error(m_Parser));
+            const std::runtime_error error(sdp_parsing_error(m_Parser));
+            sdp_parser_free(m_Parser);
+            throw error;
         }
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
-    ~Session()
-    {
-        sdp_parser_free(m_Parser);
-        su_home_unref(m_Home);
-    }
+    ~Session() { sdp_parser_free(m_Parser); }
 
-    su_home_t* home() const { return m_Home; }
+    su_home_t* home() const { return sdp_parser_home(m_Parser); }
     sdp_session_t* get() const { return sdp_session(m_Parser); }
 
 private:
-    su_home_t* m_Home;
     sdp_parser_t* m_Parser;
 };
 
-/// An attribute that is kept as a member, such as an rtpmap, or in the list.
 std::size_t countAttributes(const sdp_attribute_t* attribute)
 {
     std::size_t count = 0;
@@ -49,54 +43,50 @@ std::size_t countAttributes(const sdp_attribute_t* attribute)
     return count;
 }
 
+/// The lines that became maps; a map of a well-known payload type may have come without a line.
+std::size_t countMaps(const sdp_rtpmap_t* map)
+{
+    std::size_t count = 0;
+    for (; map != nullptr; map = map->rm_next)
+    {
+        count += (map->rm_predef ? 0U : 1U) + (map->rm_fmtp != nullptr ? 1U : 0U);
+    }
+    return count;
+}
+
 class SofiaSip : public Peer
 {
 public:
     Content content(const std::string& body) override
     {
+        constexpr const char* directions[] = {"a=inactive", "a=sendonly", "a=recvonly", "a=sendrecv"};
         const Session session(body);
         Content content;
-        content.attributes = countAttributes(session.get()->sdp_attributes) + modes(body);
+        content.attributes =
+            countAttributes(session.get()->sdp_attributes) + (session.get()->sdp_charset != nullptr ? 1U : 0U);
         for (const sdp_media_t* media = session.get()->sdp_media; media != nullptr; media = media->m_next)
         {
             ++content.sections;
-            content.attributes += countAttributes(media->m_attributes);
-            for (const sdp_rtpmap_t* map = media->m_rtpmaps; map != nullptr; map = map->rm_next)
-            {
-                content.attributes += (map->rm_predef ? 0U : 1U) + (map->rm_fmtp != nullptr ? 1U : 0U);
-            }
+            content.attributes += countAttributes(media->m_attributes) + countMaps(media->m_rtpmaps);
+            content.implied.push_back({directions[media->m_mode]});
         }
         return content;
     }
 
     void read(const std::string& body) override { const Session session(body); }
 
-    std::size_t readAndWrite(const std::string& body) override
+    void readAndWrite(const std::string& body, const Sink& sink) override
     {
         const Session session(body);
         sdp_printer_t* const printer = sdp_print(session.home(), session.get(), nullptr, 0, 0);
         if (sdp_message(printer) == nullptr)
         {
-            throw std::runtime_error("cannot be printed");
+            const std::runtime_error error(sdp_printing_error(printer));
+            sdp_printer_free(printer);
+            throw error;
         }
-        const auto length = static_cast<std::size_t>(sdp_message_size(printer));
+        sink({sdp_message(printer), static_cast<std::size_t>(sdp_message_size(printer))});
         sdp_printer_free(printer);
-        return length;
-    }
-
-private:
-    /// Lines of the direction of media are kept as a member without a count.
-    static std::size_t modes(const std::string& body)
-    {
-        std::size_t count = 0;
-        for (const char* const line : {"\na=sendrecv", "\na=sendonly", "\na=recvonly", "\na=inactive"})
-        {
-            for (std::size_t at = body.find(line); at != std::string::npos; at = body.find(line, at + 1))
-            {
-                ++count;
-            }
-        }
-        return count;
     }
 };
 

@@ -1,22 +1,28 @@
 // Times one library on bodies, in short batches:
 //
 //     <program> read|write BATCHES MILLISECONDS FILE...
+//     <program> losses FILE...
 //
 // "write" reads, writes and releases. Prints one JSON object for each file: the nanoseconds per body of each batch and
-// the calls of the allocator per body, or why the library does not hold that body.
+// the calls of the allocator per body, or why the library does not hold that body or does not write all of it.
+// "losses" tells which attributes could be lost without the check for that noticing.
 
 #include "peers/Peer.h"
 #include "support/Allocations.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace
 {
@@ -44,18 +50,70 @@ std::size_t countLines(const std::string& body, char letter)
     return count;
 }
 
-/// Why the tree of the body does not hold all of it; empty when it does.
-std::string lacking(Peer& peer, const std::string& body)
+/// How many attributes of the body a tree implies, whatever follows a blank in them.
+std::size_t countImplied(const std::string& body, const std::vector<std::vector<std::string>>& implied)
 {
-    const Peer::Content content = peer.content(body);
+    std::size_t count = 0;
+    std::size_t section = 0;
+    std::istringstream lines(body);
+    for (std::string line; std::getline(lines, line);)
+    {
+        section += line.compare(0, 2, "m=") == 0 ? 1U : 0U;
+        line.resize(std::min(line.size(), line.find_first_of(" \r")));
+        if (section < implied.size())
+        {
+            const std::vector<std::string>& here = implied[section];
+            count += std::find(here.begin(), here.end(), line) != here.end() ? 1U : 0U;
+        }
+    }
+    return count;
+}
+
+/// What the tree of a text does not hold of a body; empty when nothing is missing.
+std::string lacking(Peer& peer, const std::string& text, const std::string& body)
+{
+    const Peer::Content content = peer.content(text);
     const std::size_t sections = countLines(body, 'm');
     const std::size_t attributes = countLines(body, 'a');
-    if (content.sections == sections && content.attributes == attributes)
+    const std::size_t held = content.attributes + countImplied(body, content.implied);
+    if (content.sections == sections && held == attributes)
     {
         return {};
     }
-    return "holds " + std::to_string(content.sections) + " of " + std::to_string(sections) + " sections and " +
-           std::to_string(content.attributes) + " of " + std::to_string(attributes) + " attributes";
+    return std::to_string(content.sections) + " of " + std::to_string(sections) + " sections and " +
+           std::to_string(held) + " of " + std::to_string(attributes) + " attributes";
+}
+
+/// Why there is nothing to time; empty when the library does the whole work.
+std::string refusal(Peer& peer, const std::string& body, bool write)
+{
+    if (const std::string missing = lacking(peer, body, body); !missing.empty())
+    {
+        return "holds " + missing;
+    }
+    std::string text;
+    if (write)
+    {
+        peer.readAndWrite(body, [&text](std::string_view written) { text = written; });
+    }
+    const std::string missing = write ? lacking(peer, text, body) : std::string();
+    return missing.empty() ? missing : "writes " + missing;
+}
+
+/// The attributes of the body without which its tree passes for whole.
+std::vector<std::string> unnoticedLosses(Peer& peer, const std::string& body)
+{
+    std::vector<std::string> lines;
+    for (std::size_t at = body.find("\na="); at != std::string::npos; at = body.find("\na=", at + 1))
+    {
+        const std::string line = body.substr(at + 1, body.find('\n', at + 1) - at);
+        std::string rest = body;
+        if (lacking(peer, rest.erase(at + 1, line.size()), body).empty())
+        {
+            lines.push_back(line);
+        }
+    }
+    return lines;
 }
 
 class Timer
@@ -67,7 +125,7 @@ public:
     {
         if (m_Write)
         {
-            m_Peer.readAndWrite(m_Body);
+            m_Peer.readAndWrite(m_Body, m_Sink);
         }
         else
         {
@@ -100,11 +158,13 @@ private:
     Peer& m_Peer;
     const std::string& m_Body;
     const bool m_Write;
+    std::size_t m_Written = 0;
+    const Peer::Sink m_Sink = [this](std::string_view text) { m_Written += text.size(); };
 };
 
 nlohmann::json measure(Peer& peer, const std::string& body, bool write, int batches, double batch)
 {
-    if (const std::string reason = lacking(peer, body); !reason.empty())
+    if (const std::string reason = refusal(peer, body, write); !reason.empty())
     {
         return {{"refused", reason}};
     }
@@ -125,22 +185,29 @@ nlohmann::json measure(Peer& peer, const std::string& body, bool write, int batc
 int main(int argc, char** argv)
 try
 {
-    if (argc < 5)
+    const std::string task = argc > 1 ? argv[1] : "";
+    const int first = task == "losses" ? 2 : 4;
+    if ((task != "losses" && task != "read" && task != "write") || argc <= first)
     {
-        std::cerr << "usage: " << argv[0] << " read|write BATCHES MILLISECONDS FILE...\n";
+        std::cerr << "usage: " << argv[0] << " read|write BATCHES MILLISECONDS FILE...\n"
+                  << "       " << argv[0] << " losses FILE...\n";
         return 2;
     }
-    const bool write = std::string(argv[1]) == "write";
-    const int batches = std::atoi(argv[2]);
-    const double batch = std::atof(argv[3]) * 1e6;
     const std::unique_ptr<Peer> peer = makePeer();
-    for (int i = 4; i < argc; ++i)
+    for (int i = first; i < argc; ++i)
     {
         const std::string body = contentOf(argv[i]);
         nlohmann::json result;
         try
         {
-            result = measure(*peer, body, write, batches, batch);
+            if (task == "losses")
+            {
+                result["unnoticed"] = unnoticedLosses(*peer, body);
+            }
+            else
+            {
+                result = measure(*peer, body, task == "write", std::atoi(argv[2]), std::atof(argv[3]) * 1e6);
+            }
         }
         catch (const std::runtime_error& error)
         {
