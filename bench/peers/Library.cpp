@@ -3,6 +3,8 @@
 #include "LmSdpObject.h"
 #include "peers/Peer.h"
 
+#include <stdexcept>
+
 namespace
 {
 
@@ -52,7 +54,14 @@ private:
     {
         const LmHandle<LmByteArray> hBytes = LmByteArray::sCreate(static_cast<unsigned int>(body.size()), body.data());
         LmByteArrayInputStream in(hBytes, 0, 0);
-        msg.parse(in);
+        try
+        {
+            msg.parse(in);
+        }
+        catch (const LmException& error)
+        {
+            throw std::runtime_error(error.getMessage());
+        }
     }
 };
 
