@@ -10,6 +10,13 @@
 
 std::string bodyNamed(const std::string& name)
 {
+    for (const GeneratedBody& generated : g_Generated)
+    {
+        if (name == generated.name)
+        {
+            return generated.generate(generated.count);
+        }
+    }
     const std::string path = std::string(LMSDP_BENCH_BODIES) + "/" + name + ".sdp";
     std::ifstream in(path, std::ios::binary);
     if (!in)
@@ -65,12 +72,6 @@ void read(LmSdpMsg& msg, const LmHandle<LmByteArray>& hBytes)
 {
     LmByteArrayInputStream in(hBytes, 0, 0);
     msg.parse(in);
-}
-
-void report(benchmark::State& state, std::size_t length, double calls)
-{
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(length));
-    state.counters["calls/body"] = calls / static_cast<double>(state.iterations());
 }
 
 double bestSeconds(const std::function<void()>& action, int runs)

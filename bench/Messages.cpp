@@ -8,23 +8,32 @@
 #include <log4cplus/logger.h>
 #include <log4cplus/nullappender.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 namespace
 {
 
+/// Besides the time of one body: bytes of text per second, and what each body asks of the system's allocator.
 void measure(benchmark::State& state, const std::string& body, const std::function<void()>& action)
 {
     action();
-    const std::uint64_t before = Allocations::soFar().calls;
+    const Allocations before = Allocations::soFar();
     for (auto _ : state)
     {
         action();
     }
-    const auto calls = static_cast<double>(Allocations::soFar().calls - before);
-    report(state, body.size(), calls);
-    state.counters["calls/line"] =
-        calls / static_cast<double>(state.iterations()) / static_cast<double>(countLines(body));
+    const Allocations after = Allocations::soFar();
+    const auto iterations = static_cast<double>(state.iterations());
+    const double calls = static_cast<double>(after.calls - before.calls) / iterations;
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(body.size()));
+    state.counters["calls/body"] = calls;
+    state.counters["calls/line"] = calls / static_cast<double>(countLines(body));
+    state.counters["bytes/body"] = static_cast<double>(after.bytes - before.bytes) / iterations;
 }
 
 void readBody(benchmark::State& state, const std::string& name)
@@ -70,42 +79,75 @@ void readStreams(benchmark::State& state, const std::string& name)
     });
 }
 
-/// The bytes that a tree holds for each byte of its text, of many trees at once.
-void holdTree(benchmark::State& state, const std::string& name)
+/// Builds the local body of the streams that a body has.
+void buildLocalBody(benchmark::State& state, const std::string& name)
+{
+    std::string body = bodyNamed(name);
+    const LmHandle<LmMediaSession> hSession =
+        LmMediaSession::sCreateSession(body.data(), static_cast<unsigned int>(body.size()));
+    if (hSession.isNull() || hSession->getStreams().empty())
+    {
+        state.SkipWithError("no streams in this body");
+        return;
+    }
+    const std::vector<LmHandle<LmMediaStream>>& streams = hSession->getStreams();
+    std::string built;
+    const auto build = [&streams](std::string* text) {
+        LmMediaSession session(streams.front());
+        std::for_each(streams.begin() + 1, streams.end(),
+                      [&session](const LmHandle<LmMediaStream>& hStream) { session.addStream(hStream); });
+        const auto* const begin = static_cast<const char*>(session.getBody());
+        if (text != nullptr)
+        {
+            text->assign(begin, session.getBodyLength());
+        }
+    };
+    build(&built);
+    measure(state, built, [&build] { build(nullptr); });
+}
+
+/// The bytes that the calling process has more when it holds a tree, out of many.
+double bytesOfTree(const LmHandle<LmByteArray>& hBytes)
 {
     constexpr std::size_t trees = 400;
+    std::vector<LmSdpMsg> msgs(trees);
+    const std::size_t before = bytesInUse();
+    for (LmSdpMsg& msg : msgs)
+    {
+        read(msg, hBytes);
+    }
+    return static_cast<double>(bytesInUse() - before) / trees;
+}
+
+/// What a tree takes for each byte of its text. In a process of its own, where no block of an earlier tree serves it.
+void holdTree(benchmark::State& state, const std::string& name)
+{
     const std::string body = bodyNamed(name);
     const LmHandle<LmByteArray> hBytes = bytesOf(body);
     for (auto _ : state)
     {
-        std::vector<LmSdpMsg> msgs(trees);
-        const std::size_t before = bytesInUse();
-        for (LmSdpMsg& msg : msgs)
+        int ends[2] = {};
+        if (::pipe(ends) != 0)
         {
-            read(msg, hBytes);
+            throw std::runtime_error("no pipe");
         }
-        const auto held = static_cast<double>(bytesInUse() - before) / trees;
+        const pid_t child = ::fork();
+        if (child == 0)
+        {
+            const double held = bytesOfTree(hBytes);
+            ::_exit(::write(ends[1], &held, sizeof held) == sizeof held ? 0 : 1);
+        }
+        ::close(ends[1]);
+        double held = 0;
+        if (::read(ends[0], &held, sizeof held) != sizeof held)
+        {
+            state.SkipWithError("the process that holds the trees has failed");
+        }
+        ::close(ends[0]);
+        ::waitpid(child, nullptr, 0);
         state.counters["bytes/body"] = held;
         state.counters["times the text"] = held / static_cast<double>(body.size());
     }
-}
-
-void buildLocalBody(benchmark::State& state)
-{
-    const LmHandle<LmMediaStream> hStream =
-        new LmMediaStream(LmMediaStream::AUDIO, 49170, LmInetAddress("192.0.2.1", nullptr, 0));
-    hStream->addCodecs(
-        {LmCodecDescription(0, "PCMU"), LmCodecDescription(8, "PCMA"), LmCodecDescription(101, "telephone-event")});
-    unsigned int length = 0;
-    const std::uint64_t before = Allocations::soFar().calls;
-    for (auto _ : state)
-    {
-        LmMediaSession session(hStream);
-        benchmark::DoNotOptimize(session.getBody());
-        length = session.getBodyLength();
-    }
-    const auto calls = static_cast<double>(Allocations::soFar().calls - before);
-    report(state, length, calls);
 }
 
 void switchLevelsOff(const benchmark::State&)
@@ -125,46 +167,49 @@ void leaveAsItWas(const benchmark::State&)
     log4cplus::Logger::getRoot().setLogLevel(log4cplus::DEBUG_LOG_LEVEL);
 }
 
-void nameAll(const char* what, void (*run)(benchmark::State&, const std::string&))
+using Run = void (*)(benchmark::State&, const std::string& name);
+
+benchmark::internal::Benchmark* add(const std::string& what, const char* name, Run run)
 {
-    for (const std::string name : g_Names)
-    {
-        benchmark::RegisterBenchmark((what + name).c_str(), run, name);
-    }
+    return benchmark::RegisterBenchmark((what + "/" + name).c_str(), run, std::string(name));
 }
 
-/// The tree is held first of all, when no block of an earlier body can serve it.
-const bool s_Registered = [] {
-    for (const std::string name : g_Names)
-    {
-        benchmark::RegisterBenchmark(("hold/" + name).c_str(), &holdTree, name)->Iterations(1);
-    }
-    nameAll("read/", &readBody);
-    nameAll("read+write/", &readAndWriteBody);
-    nameAll("write/", &writeBody);
-    nameAll("streams/", &readStreams);
-    benchmark::RegisterBenchmark("build local body", &buildLocalBody);
-    for (const std::string name : g_Names)
-    {
-        benchmark::RegisterBenchmark(("read, levels off/" + name).c_str(), &readBody, name)
-            ->Setup(&switchLevelsOff)
-            ->Teardown(&leaveAsItWas);
-        benchmark::RegisterBenchmark(("read, debug lines dropped/" + name).c_str(), &readBody, name)
-            ->Setup(&listenAndDrop)
-            ->Teardown(&leaveAsItWas);
-    }
-    return true;
-}();
+struct Task
+{
+    const char* what;
+    Run run;
+};
+constexpr Task g_Tasks[] = {{"read", &readBody},
+                            {"read+write", &readAndWriteBody},
+                            {"write", &writeBody},
+                            {"streams", &readStreams},
+                            {"build local body", &buildLocalBody}};
 
 } // namespace
 
-int main(int argc, char** argv)
+void registerMessages()
 {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    for (const char* const name : g_Names)
     {
-        return 2;
+        add("hold", name, &holdTree)->Iterations(1);
     }
-    benchmark::RunSpecifiedBenchmarks();
-    return s_Registered ? 0 : 1;
+    for (const Task& task : g_Tasks)
+    {
+        for (const char* const name : g_Names)
+        {
+            add(task.what, name, task.run);
+        }
+    }
+    for (const char* const name : g_Names)
+    {
+        add("read, levels off", name, &readBody)->Setup(&switchLevelsOff)->Teardown(&leaveAsItWas);
+        add("read, debug lines dropped", name, &readBody)->Setup(&listenAndDrop)->Teardown(&leaveAsItWas);
+    }
+    for (const Task& task : g_Tasks)
+    {
+        for (const GeneratedBody& body : g_Generated)
+        {
+            add(task.what, body.name, task.run);
+        }
+    }
 }

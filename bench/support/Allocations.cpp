@@ -17,6 +17,13 @@ namespace
 {
 
 __thread std::uint64_t t_Calls = 0;
+__thread std::uint64_t t_Bytes = 0;
+
+void count(std::size_t bytes)
+{
+    ++t_Calls;
+    t_Bytes += bytes;
+}
 
 } // namespace
 
@@ -25,25 +32,25 @@ extern "C"
 {
     void* malloc(std::size_t size)
     {
-        ++t_Calls;
+        count(size);
         return __libc_malloc(size);
     }
 
     void* calloc(std::size_t count, std::size_t size)
     {
-        ++t_Calls;
+        ::count(count * size);
         return __libc_calloc(count, size);
     }
 
     void* realloc(void* block, std::size_t size)
     {
-        ++t_Calls;
+        count(size);
         return __libc_realloc(block, size);
     }
 
     void* aligned_alloc(std::size_t alignment, std::size_t size)
     {
-        ++t_Calls;
+        count(size);
         return __libc_memalign(alignment, size);
     }
 
@@ -61,7 +68,7 @@ extern "C"
 
 Allocations Allocations::soFar()
 {
-    return {t_Calls};
+    return {t_Calls, t_Bytes};
 }
 
 std::size_t bytesInUse()

@@ -7,6 +7,7 @@
 struct Allocations
 {
     std::uint64_t calls = 0; ///< of malloc, calloc, realloc and their aligned relatives; freeing is not counted
+    std::uint64_t bytes = 0; ///< asked for in these calls
 
     static Allocations soFar();
 };
