@@ -1,6 +1,6 @@
 #include "Bodies.h"
 
-#include <time.h>
+#include "support/ProcessorTime.h"
 
 #include <algorithm>
 #include <fstream>
@@ -76,17 +76,12 @@ void read(LmSdpMsg& msg, const LmHandle<LmByteArray>& hBytes)
 
 double bestSeconds(const std::function<void()>& action, int runs)
 {
-    const auto now = [] {
-        timespec time{};
-        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-    };
     double best = std::numeric_limits<double>::max();
     for (; runs > 0; --runs)
     {
-        const double start = now();
+        const double start = processorSeconds();
         action();
-        best = std::min(best, now() - start);
+        best = std::min(best, processorSeconds() - start);
     }
     return best;
 }

@@ -1,8 +1,7 @@
 // Two threads that each read bodies of their own, against one.
 
 #include "Bodies.h"
-
-#include <time.h>
+#include "support/ProcessorTime.h"
 
 #include <algorithm>
 #include <atomic>
@@ -18,13 +17,6 @@ struct Work
     long bodies = 0;
     double processorSeconds = 0;
 };
-
-double processorSeconds()
-{
-    timespec time{};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
 
 void readUntil(const std::atomic<bool>& stop, const LmHandle<LmByteArray>& hBytes, Work& work)
 {
