@@ -34,7 +34,7 @@ LmHandle<LmSdpAttribute> lmSdpAttributeValue(std::string_view name, std::string_
     }
     if (is(name, "crypto"))
     {
-        return new LmSdpCryptoAttribute(LmString(text).c_str());
+        return new LmSdpCryptoAttribute(text);
     }
     return new LmSdpAttribute(text);
 }

@@ -3,21 +3,23 @@
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmInputStream.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
-/// Two ways of walking over a stream with the same operations, so that each reading operation is written once: over
-/// the window of a stream that has one, and through the virtual operations of any other.
+/// Two ways of walking over input with the same operations, so that each reading operation is written once: over text
+/// in memory, such as the window of a stream that has one, and through the virtual operations of any other stream.
 
-/// Walks over a stream's window; nothing is copied. The stream follows when the cursor goes.
-class LmWindowCursor
+/// Walks over text in memory; nothing is copied.
+class LmTextCursor
 {
 public:
-    explicit LmWindowCursor(LmInputStream& in) : m_In(in), m_Next(in.windowBegin()), m_End(in.windowEnd()) {}
-    LmWindowCursor(const LmWindowCursor&) = delete;
-    LmWindowCursor& operator=(const LmWindowCursor&) = delete;
-    ~LmWindowCursor() { m_In.consumeTo(m_Next); }
+    explicit LmTextCursor(std::string_view text) : LmTextCursor(text.data(), text.data() + text.size()) {}
+    LmTextCursor(const char* begin, const char* end) : m_Next(begin), m_End(end) {}
+    LmTextCursor(const LmTextCursor&) = delete;
+    LmTextCursor& operator=(const LmTextCursor&) = delete;
 
     /// The next byte, unread, or -1 at the end of input.
     int peek() const { return m_Next == m_End ? -1 : static_cast<unsigned char>(*m_Next); }
@@ -32,7 +34,15 @@ public:
         }
     }
 
-    /// The bytes in front of the first that is a stop, valid until the next `takeUntil` or until the stream goes.
+    /// Takes two bytes where they come next.
+    bool takePair(char first, char second)
+    {
+        const bool isPair = m_End - m_Next >= 2 && m_Next[0] == first && m_Next[1] == second;
+        m_Next += isPair ? 2 : 0;
+        return isPair;
+    }
+
+    /// The bytes in front of the first that is a stop, valid until the next `takeUntil` or until the text goes.
     template <typename Predicate>
     std::string_view takeUntil(Predicate isStop)
     {
@@ -45,6 +55,9 @@ public:
     std::string_view takeUntilSpace() { return takeTo(lmFindSpace(m_Next, m_End)); }
     std::string_view takeUntilOneOf(const LmFewBytes& stops) { return takeTo(lmFindOneOf(m_Next, m_End, stops)); }
 
+protected:
+    const char* position() const { return m_Next; }
+
 private:
     std::string_view takeTo(const char* position)
     {
@@ -53,9 +66,19 @@ private:
         return {begin, static_cast<std::size_t>(position - begin)};
     }
 
-    LmInputStream& m_In;
     const char* m_Next;
     const char* const m_End;
+};
+
+/// Walks over a stream's window. The stream follows when the cursor goes.
+class LmWindowCursor : public LmTextCursor
+{
+public:
+    explicit LmWindowCursor(LmInputStream& in) : LmTextCursor(in.windowBegin(), in.windowEnd()), m_In(in) {}
+    ~LmWindowCursor() { m_In.consumeTo(position()); }
+
+private:
+    LmInputStream& m_In;
 };
 
 /// Walks over a stream byte by byte.
@@ -74,6 +97,17 @@ public:
         return next;
     }
     void advance() { m_In.read(); }
+
+    bool takePair(char first, char second)
+    {
+        m_In.mark(2);
+        if (m_In.read() == static_cast<unsigned char>(first) && m_In.read() == static_cast<unsigned char>(second))
+        {
+            return true;
+        }
+        m_In.reset();
+        return false;
+    }
 
     template <typename Predicate>
     void skipWhile(Predicate isWanted)
@@ -141,20 +175,39 @@ inline auto lmWithCursor(LmInputStream& in, Operation operation)
     return lmWithByteCursor(in, operation);
 }
 
+/// Takes the next byte where it is the wanted one.
+template <typename Cursor>
+bool lmTakeIf(Cursor& cursor, char wanted)
+{
+    const bool isNext = cursor.peek() == static_cast<unsigned char>(wanted);
+    if (isNext)
+    {
+        cursor.advance();
+    }
+    return isNext;
+}
+
+/// Takes the next byte, whatever it is, and gives it; -1 at the end of input.
+template <typename Cursor>
+int lmTakeByte(Cursor& cursor)
+{
+    const int next = cursor.peek();
+    if (next != -1)
+    {
+        cursor.advance();
+    }
+    return next;
+}
+
 /// Takes the rest of a line and consumes its line end: CR LF, a lone LF, a lone CR or the end of input. The view is
 /// valid as that of `takeUntil` is.
 template <typename Cursor>
 std::string_view lmTakeLine(Cursor& cursor)
 {
     const std::string_view line = cursor.takeUntilLineEnd();
-    const int end = cursor.peek();
-    if (end != -1)
+    if (lmTakeByte(cursor) == '\r')
     {
-        cursor.advance();
-    }
-    if (end == '\r' && cursor.peek() == '\n')
-    {
-        cursor.advance();
+        lmTakeIf(cursor, '\n');
     }
     return line;
 }
@@ -166,4 +219,20 @@ std::string_view lmTakeWord(Cursor& cursor)
 {
     cursor.skipWhile([](int c) { return lmIsSpace(c) && !lmIsLineEnd(c); });
     return cursor.takeUntilSpace();
+}
+
+/// What lmTakeUnsigned gives for no number, and for one that needs more than 32 bits.
+constexpr unsigned int g_LmNoNumber = 0xFFFFFFFF;
+
+/// Takes a decimal number, nothing in front of it passed over; the byte behind its digits stays.
+template <typename Cursor>
+unsigned int lmTakeUnsigned(Cursor& cursor)
+{
+    std::uint64_t number = lmIsDigit(cursor.peek()) ? 0 : g_LmNoNumber;
+    for (int next = cursor.peek(); lmIsDigit(next); next = cursor.peek())
+    {
+        number = std::min<std::uint64_t>(number * 10 + static_cast<std::uint64_t>(next - '0'), g_LmNoNumber);
+        cursor.advance();
+    }
+    return static_cast<unsigned int>(number);
 }

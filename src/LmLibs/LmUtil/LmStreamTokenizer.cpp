@@ -3,13 +3,10 @@
 #include "LmLibs/LmUtil/LmLine.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstring>
 
 namespace
 {
-
-constexpr std::uint64_t s_NoNumber = 0xFFFFFFFF;
 
 /// The bytes that end a token. Nearly always they are few enough to be looked for in many bytes at once.
 class Delimiters
@@ -80,15 +77,5 @@ bool LmStreamTokenizer::sGetToken(LmInputStream& in, const char* delimiters, cha
 
 unsigned int LmStreamTokenizer::sGetUnsigned(LmInputStream& in)
 {
-    return lmWithCursor(in, [](auto& cursor) {
-        std::uint64_t number = lmIsDigit(cursor.peek()) ? 0 : s_NoNumber;
-        cursor.skipWhile([&number](int c) {
-            if (lmIsDigit(c))
-            {
-                number = std::min(number * 10 + static_cast<std::uint64_t>(c - '0'), s_NoNumber);
-            }
-            return lmIsDigit(c);
-        });
-        return static_cast<unsigned int>(number);
-    });
+    return lmWithCursor(in, [](auto& cursor) { return lmTakeUnsigned(cursor); });
 }

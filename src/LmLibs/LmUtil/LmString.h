@@ -15,7 +15,7 @@ class LmString : private LmHandle<LmStringBuffer>
 {
 public:
     /// The empty text.
-    LmString() noexcept : LmString(*LmStringBuffer::sEmpty()) {}
+    LmString() noexcept : LmHandle(LmStringBuffer::sEmpty(), Adopt()) {}
 
     /// A copy of the text. @throws std::bad_alloc
     LmString(const char* text) : LmString(lmViewOf(text)) {}
@@ -34,6 +34,9 @@ public:
 
     /// Shares the buffer, or owns one that is new.
     explicit LmString(LmStringBuffer& buffer) noexcept : LmHandle(sCounted(&buffer), Adopt()) {}
+
+    /// Shares a buffer that is never counted, as `LmStringBuffer::sCreateImmortal` makes them.
+    static LmString sShareImmortal(LmStringBuffer& buffer) noexcept { return LmString(&buffer, Adopt()); }
 
     ///@{
     /// Copying shares the buffer; moving leaves the other one empty.
@@ -112,6 +115,8 @@ public:
     void trim() { store(solid()->trim()); }
 
 private:
+    LmString(LmStringBuffer* pCounted, Adopt adopt) noexcept : LmHandle(pCounted, adopt) {}
+
     static LmStringBuffer* sCounted(LmStringBuffer* pBuffer) noexcept
     {
         if (pBuffer != nullptr)

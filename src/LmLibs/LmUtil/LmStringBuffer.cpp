@@ -24,6 +24,36 @@ constexpr std::size_t innerBytes(std::size_t room)
     return sizeof(LmStringBuffer) + s_RoomInFront + room + 1;
 }
 
+/// Copies front and back of so many bytes, which may overlap.
+template <typename Word>
+void copyEnds(char* to, std::string_view text)
+{
+    Word front;
+    Word back;
+    const std::size_t behind = text.size() - sizeof(Word);
+    std::memcpy(&front, text.data(), sizeof front);
+    std::memcpy(&back, text.data() + behind, sizeof back);
+    std::memcpy(to, &front, sizeof front);
+    std::memcpy(to + behind, &back, sizeof back);
+}
+
+/// Copies a text without a call where it is as short as most are.
+inline void copyShort(char* to, std::string_view text)
+{
+    if (text.size() - sizeof(std::uint64_t) <= sizeof(std::uint64_t))
+    {
+        copyEnds<std::uint64_t>(to, text);
+    }
+    else if (text.size() - sizeof(std::uint32_t) <= sizeof(std::uint32_t))
+    {
+        copyEnds<std::uint32_t>(to, text);
+    }
+    else
+    {
+        text.copy(to, text.size());
+    }
+}
+
 } // namespace
 
 /// The shared empty text, its room number in front of it as in a block of its own.
@@ -90,7 +120,7 @@ LmStringBuffer* LmStringBuffer::sCreate(const char* text, unsigned int length, u
 LmStringBuffer* LmStringBuffer::sCreate(std::string_view text, unsigned int capacity)
 {
     LmStringBuffer* const pBuffer = sMake(std::max<std::size_t>(text.size(), capacity));
-    text.copy(pBuffer->m_Text, text.size());
+    copyShort(pBuffer->m_Text, text);
     pBuffer->setText(pBuffer->m_Text, text.size());
     return pBuffer;
 }
@@ -119,6 +149,11 @@ LmStringBuffer::~LmStringBuffer()
 /// The same as `delete`, in one piece.
 void LmStringBuffer::sDestroy(LmStringBuffer* pBuffer) noexcept
 {
+    if (__builtin_expect(pBuffer->isTextOutside(), 0))
+    {
+        delete pBuffer;
+        return;
+    }
     const std::size_t bytes = innerBytes(sRoom(sInnerText(pBuffer)));
     pBuffer->LmStringBuffer::~LmStringBuffer();
     ThreadHeap::deallocate(pBuffer, bytes);

@@ -9,7 +9,7 @@ namespace Srtp
 namespace
 {
 
-constexpr const char* s_Names[] = {"AES_CM_128_HMAC_SHA1_80", "AES_CM_128_HMAC_SHA1_32", "F8_128_HMAC_SHA1_80"};
+constexpr std::string_view s_Names[] = {"AES_CM_128_HMAC_SHA1_80", "AES_CM_128_HMAC_SHA1_32", "F8_128_HMAC_SHA1_80"};
 
 bool isKnown(CryptoType::eCryptoType type)
 {
@@ -21,9 +21,14 @@ bool isKnown(CryptoType::eCryptoType type)
 
 CryptoType::eCryptoType CryptoType::parseCryptoTypeStr(const char* name)
 {
-    for (int type = 0; name != nullptr && type < EXTENDED; ++type)
+    return name == nullptr ? EXTENDED : parseCryptoTypeStr(std::string_view(name));
+}
+
+CryptoType::eCryptoType CryptoType::parseCryptoTypeStr(std::string_view name)
+{
+    for (int type = 0; type < EXTENDED; ++type)
     {
-        if (::strcasecmp(name, s_Names[type]) == 0)
+        if (name.size() == s_Names[type].size() && ::strncasecmp(name.data(), s_Names[type].data(), name.size()) == 0)
         {
             return static_cast<eCryptoType>(type);
         }
@@ -33,7 +38,7 @@ CryptoType::eCryptoType CryptoType::parseCryptoTypeStr(const char* name)
 
 const char* CryptoType::getCryptoTypeName(eCryptoType type)
 {
-    return isKnown(type) ? s_Names[type] : "";
+    return isKnown(type) ? s_Names[type].data() : "";
 }
 
 unsigned int CryptoType::getKeyLifetimeIndex(eCryptoType type)

@@ -2,6 +2,8 @@
 
 #include "core/srtp/SrtpExport.h"
 
+#include <string_view>
+
 namespace Quorvex
 {
 namespace Srtp
@@ -22,6 +24,9 @@ public:
 
     /// The suite of a name, in upper or lower case; `EXTENDED` for a null pointer or any other text.
     static eCryptoType parseCryptoTypeStr(const char* name);
+
+    /// The same for a name without a NUL behind it.
+    static eCryptoType parseCryptoTypeStr(std::string_view name);
 
     /// The name of a suite below `EXTENDED`, a text that stays valid; the empty text for any other value.
     static const char* getCryptoTypeName(eCryptoType type);

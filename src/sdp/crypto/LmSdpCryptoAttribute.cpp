@@ -1,7 +1,7 @@
 #include "sdp/crypto/LmSdpCryptoAttribute.h"
 
 #include "LmLibs/LmUtil/LmException.h"
-#include "LmLibs/LmUtil/LmStreamTokenizer.h"
+#include "LmLibs/LmUtil/LmStreamCursor.h"
 #include "core/LogStatement.h"
 #include "core/TraceScope.h"
 #include "sdp/frame/LmSdpParseError.h"
@@ -10,6 +10,7 @@
 #include <strings.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 using Quorvex::TraceScope;
@@ -20,35 +21,29 @@ namespace
 Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpCryptoAttribute");
 
 constexpr unsigned int s_Powers = 64;
-constexpr unsigned int s_WholeText = 0xFFFFFFFF;
+constexpr std::size_t s_LongestToken = 255;
 
-using Token = char[256];
+constexpr LmFewBytes s_BehindMethod = {':', ':', ':', ':', ':'};
+constexpr LmFewBytes s_BehindKey = {';', '|', ' ', '\r', '\n'};
+constexpr LmFewBytes s_BehindName = {'=', ' ', '\r', '\n', '\n'};
+constexpr LmFewBytes s_BehindValue = {' ', '\r', '\n', '\n', '\n'};
 
 constexpr const char* s_ParameterNames[] = {
     "KDR", "UNENCRYPTED_SRTP", "UNENCRYPTED_SRTCP", "UNAUTHENTICATED_SRTP", "FEC_ORDER", "FEC_KEY", "WSH"};
 
-/// Takes the next character if it is the one wanted.
-bool takeIf(LmInputStream& in, int wanted)
+/// Takes the bytes in front of the first stop, white space in front of them passed over. Nothing at the end of input,
+/// and for a token that is too long.
+template <typename Cursor>
+std::optional<std::string_view> takeToken(Cursor& cursor, const LmFewBytes& stops)
 {
-    in.mark(s_WholeText);
-    if (in.read() == wanted)
+    cursor.skipWhile(lmIsSpace);
+    const bool isOver = cursor.peek() == -1;
+    const std::string_view token = cursor.takeUntilOneOf(stops);
+    if (isOver || token.size() > s_LongestToken)
     {
-        return true;
+        return std::nullopt;
     }
-    in.reset();
-    return false;
-}
-
-/// Takes the "2^" with which a lifetime in its power form begins.
-bool takePowerMark(LmInputStream& in)
-{
-    in.mark(s_WholeText);
-    if (in.read() == '2' && in.read() == '^')
-    {
-        return true;
-    }
-    in.reset();
-    return false;
+    return lmUpToNul(token);
 }
 
 /// What the log may hold of a suite's text: where a peer left the suite out, a key stands in its place behind a colon,
@@ -59,6 +54,12 @@ std::string_view loggable(std::string_view suite)
 }
 
 /// A 32-bit number as "%d" writes it.
+bool isInline(std::string_view method)
+{
+    constexpr std::string_view name = "inline";
+    return method.size() == name.size() && ::strncasecmp(method.data(), name.data(), name.size()) == 0;
+}
+
 std::string asSigned(unsigned int number)
 {
     return std::to_string(static_cast<int>(number));
@@ -163,21 +164,34 @@ LmObject* LmSdpCryptoAttribute::clone() const
     return pClone.release();
 }
 
-void LmSdpCryptoAttribute::parse(LmInputStream& in)
+LmSdpCryptoAttribute::LmSdpCryptoAttribute(std::string_view text) : LmSdpAttribute(text)
 {
-    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parse");
-    setTag(LmStreamTokenizer::sGetUnsigned(in));
-    parseSuite(in);
-    parseKeys(in);
-    parseSessionParameters(in);
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::LmSdpCryptoAttribute");
+    LmTextCursor cursor(text);
+    read(cursor);
 }
 
-void LmSdpCryptoAttribute::parseSuite(LmInputStream& in)
+void LmSdpCryptoAttribute::parse(LmInputStream& in)
 {
-    Token token;
-    if (LmStreamTokenizer::sGetToken(in, " \r\n", token, sizeof token))
+    lmWithCursor(in, [this](auto& cursor) { read(cursor); });
+}
+
+template <typename Cursor>
+void LmSdpCryptoAttribute::read(Cursor& cursor)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parse");
+    setTag(lmTakeUnsigned(cursor));
+    readSuite(cursor);
+    readKeys(cursor);
+    readSessionParameters(cursor);
+}
+
+template <typename Cursor>
+void LmSdpCryptoAttribute::readSuite(Cursor& cursor)
+{
+    if (const auto suite = takeToken(cursor, s_BehindValue))
     {
-        setCryptoSuite(token);
+        storeSuite(*suite);
     }
     if (m_CryptoSuite == CryptoType::EXTENDED && m_ExtendedCryptoSuite.isBlank())
     {
@@ -185,35 +199,36 @@ void LmSdpCryptoAttribute::parseSuite(LmInputStream& in)
     }
 }
 
-void LmSdpCryptoAttribute::parseKeys(LmInputStream& in)
+template <typename Cursor>
+void LmSdpCryptoAttribute::readKeys(Cursor& cursor)
 {
     do
     {
-        Token method;
-        if (!LmStreamTokenizer::sGetToken(in, ":", method, sizeof method))
+        const auto method = takeToken(cursor, s_BehindMethod);
+        if (!method)
         {
             LmSdpParseError::sThrow("No : in key-params LmSdpCryptoAttribute::parse()");
         }
-        if (::strcasecmp(method, "inline") == 0)
+        if (isInline(*method))
         {
-            in.read();
-            parseKey(in);
+            lmTakeByte(cursor);
+            readKey(cursor);
         }
-    } while (takeIf(in, ';'));
+    } while (lmTakeIf(cursor, ';'));
     if (m_Keys.empty())
     {
         LmSdpParseError::sThrow("LmSdpCryptoAttribute::parse-Failed to parse key/s.");
     }
 }
 
-void LmSdpCryptoAttribute::parseKey(LmInputStream& in)
+template <typename Cursor>
+void LmSdpCryptoAttribute::readKey(Cursor& cursor)
 {
     const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parseKey");
     LmCryptoKey key;
-    Token keySalt;
-    if (LmStreamTokenizer::sGetToken(in, ";| \r\n", keySalt, sizeof keySalt))
+    if (const auto keySalt = takeToken(cursor, s_BehindKey))
     {
-        key.m_Key = LmString(keySalt);
+        key.m_Key = LmString(*keySalt);
     }
     if (key.m_Key.isBlank())
     {
@@ -221,19 +236,19 @@ void LmSdpCryptoAttribute::parseKey(LmInputStream& in)
     }
 
     bool wantMki = true;
-    if (takeIf(in, '|'))
+    if (lmTakeIf(cursor, '|'))
     {
-        if (takePowerMark(in))
+        if (cursor.takePair('2', '^'))
         {
-            key.setLifetimeAsPowerOfTwo(LmStreamTokenizer::sGetUnsigned(in));
+            key.setLifetimeAsPowerOfTwo(lmTakeUnsigned(cursor));
         }
         else
         {
-            const unsigned int number = LmStreamTokenizer::sGetUnsigned(in);
-            if (takeIf(in, ':'))
+            const unsigned int number = lmTakeUnsigned(cursor);
+            if (lmTakeIf(cursor, ':'))
             {
                 key.m_MkiValue = number;
-                key.m_MkiLength = LmStreamTokenizer::sGetUnsigned(in);
+                key.m_MkiLength = lmTakeUnsigned(cursor);
                 wantMki = false;
             }
             else
@@ -248,64 +263,64 @@ void LmSdpCryptoAttribute::parseKey(LmInputStream& in)
     }
     if (wantMki)
     {
-        parseKeyMki(key, in);
+        readKeyMki(key, cursor);
     }
     addKey(key);
 }
 
-void LmSdpCryptoAttribute::parseKeyMki(LmCryptoKey& key, LmInputStream& in)
+template <typename Cursor>
+void LmSdpCryptoAttribute::readKeyMki(LmCryptoKey& key, Cursor& cursor)
 {
     const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parseKeyMki");
-    if (in.available() == 0)
+    const int next = cursor.peek();
+    if (next == -1 || next == ' ' || next == '\r' || next == '\n' || next == ';')
     {
         return;
     }
-    in.mark(s_WholeText);
-    const int next = in.read();
-    if (next == ' ' || next == '\r' || next == '\n' || next == ';')
-    {
-        in.reset();
-        return;
-    }
+    cursor.advance();
     if (next != '|')
     {
         LmSdpParseError::sThrow("LmSdpCryptoAttribute::parseKeyMki-Invalid character while parsing MKI.");
     }
-    key.m_MkiValue = LmStreamTokenizer::sGetUnsigned(in);
+    key.m_MkiValue = lmTakeUnsigned(cursor);
     if (key.m_MkiValue == LmCryptoKey::sm_NotSet)
     {
         LmSdpParseError::sThrow("Parse error in srtp-key-info mki-value");
     }
-    if (in.read() != ':')
+    if (lmTakeByte(cursor) != ':')
     {
         LmSdpParseError::sThrow("No : in srtp-key-info mki");
     }
-    key.m_MkiLength = LmStreamTokenizer::sGetUnsigned(in);
+    key.m_MkiLength = lmTakeUnsigned(cursor);
     if (key.m_MkiLength == LmCryptoKey::sm_NotSet)
     {
         LmSdpParseError::sThrow("Parse error in srtp-key-info mki-length");
     }
 }
 
-void LmSdpCryptoAttribute::parseSessionParameters(LmInputStream& in)
+template <typename Cursor>
+void LmSdpCryptoAttribute::readSessionParameters(Cursor& cursor)
 {
-    Token token;
-    while (in.available() != 0)
+    while (cursor.peek() != -1)
     {
-        if (!LmStreamTokenizer::sGetToken(in, "= \r\n", token, sizeof token))
+        const auto name = takeToken(cursor, s_BehindName);
+        if (!name)
         {
             continue;
         }
-        if (token[0] == '\0')
+        if (name->empty())
         {
             // A stray "=": taken, so that the loop moves on.
-            in.read();
+            lmTakeByte(cursor);
             continue;
         }
-        LmSecurityDescription parameter(token, "");
-        if (in.read() == '=' && LmStreamTokenizer::sGetToken(in, " \r\n", token, sizeof token))
+        LmSecurityDescription parameter(LmString(*name).c_str(), "");
+        if (lmTakeByte(cursor) == '=')
         {
-            parameter.m_Value = LmString(token);
+            if (const auto value = takeToken(cursor, s_BehindValue))
+            {
+                parameter.m_Value = LmString(*value);
+            }
         }
         addSecurityDescription(parameter);
     }
@@ -341,6 +356,11 @@ void LmSdpCryptoAttribute::setCryptoSuite(CryptoType::eCryptoType suite)
 }
 
 void LmSdpCryptoAttribute::setCryptoSuite(const char* name)
+{
+    storeSuite(lmViewOf(name));
+}
+
+void LmSdpCryptoAttribute::storeSuite(std::string_view name)
 {
     const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::setCryptoSuite");
     const CryptoType::eCryptoType suite = CryptoType::parseCryptoTypeStr(name);

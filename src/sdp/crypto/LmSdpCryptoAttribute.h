@@ -6,6 +6,7 @@
 #include "sdp/media/LmSdpAttribute.h"
 
 #include <cstddef>
+#include <string_view>
 #include <vector>
 
 /// The value of an `a=crypto` line: suite, keys and session parameters of an SRTP stream (RFC 4568).
@@ -27,6 +28,9 @@ public:
 
     /// Reads `text`, which stands behind `a=crypto:` and needs no line end. A null pointer makes a blank value.
     explicit LmSdpCryptoAttribute(const char* text);
+
+    /// The same for a text that holds no NUL.
+    explicit LmSdpCryptoAttribute(std::string_view text);
     ~LmSdpCryptoAttribute() override;
 
     /// A copy without an owner. Its text is the source's last built one, until a setter is used.
@@ -98,11 +102,23 @@ private:
     void buildValue() const override;
     bool isComplete() const;
 
-    void parseSuite(LmInputStream& in);
-    void parseKeys(LmInputStream& in);
-    void parseKey(LmInputStream& in);
-    void parseKeyMki(LmCryptoKey& key, LmInputStream& in);
-    void parseSessionParameters(LmInputStream& in);
+    ///@{
+    /// The steps of reading, over whatever there is to read from.
+    template <typename Cursor>
+    void read(Cursor& cursor);
+    template <typename Cursor>
+    void readSuite(Cursor& cursor);
+    template <typename Cursor>
+    void readKeys(Cursor& cursor);
+    template <typename Cursor>
+    void readKey(Cursor& cursor);
+    template <typename Cursor>
+    void readKeyMki(LmCryptoKey& key, Cursor& cursor);
+    template <typename Cursor>
+    void readSessionParameters(Cursor& cursor);
+    ///@}
+
+    void storeSuite(std::string_view name);
     const LmCryptoKey* findKey(std::size_t index) const;
 
     unsigned int m_Tag = LmCryptoKey::sm_NotSet;

@@ -44,10 +44,7 @@ void LmSdpOriginField::setAddress(const char* text)
 
 void LmSdpOriginField::parse(LmInputStream& in)
 {
-    for (LmString* pValue : {&m_Username, &m_SessionId, &m_SessionVersion, &m_NetworkType, &m_AddressType, &m_Address})
-    {
-        *pValue = lmSdpWord(in);
-    }
+    lmSdpTakeWords(in, {&m_Username, &m_SessionId, &m_SessionVersion, &m_NetworkType, &m_AddressType, &m_Address});
     LmStreamTokenizer::sDiscardWhite(in);
 }
 

@@ -45,8 +45,7 @@ void LmSdpRepeatField::addOffsets(const char* text)
 void LmSdpRepeatField::parse(LmInputStream& in)
 {
     lmRefuseEmptyLine(in, "LmSdpRepeatField::parse Incomplete Repeat Field");
-    m_RepeatInterval = lmSdpWord(in);
-    m_ActiveDuration = lmSdpWord(in);
+    lmSdpTakeWords(in, {&m_RepeatInterval, &m_ActiveDuration});
     const LmLine offsets(in);
     m_Offsets = lmWords(lmUpToNul(offsets.view()));
     setChangedFlag();

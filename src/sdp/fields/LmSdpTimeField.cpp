@@ -38,12 +38,7 @@ LmString takeTime(Cursor& cursor)
 template <typename Cursor>
 void takeBlank(Cursor& cursor)
 {
-    const int next = cursor.peek();
-    if (next != -1)
-    {
-        cursor.advance();
-    }
-    if (next != ' ')
+    if (lmTakeByte(cursor) != ' ')
     {
         refuse();
     }

@@ -107,38 +107,43 @@ public:
         {
             return lmSdpLetters[static_cast<unsigned char>(text.front())];
         }
-        if (text.size() > s_LongestWord)
+        if (text.size() <= Ends::sm_Whole)
         {
-            return nullptr;
+            const Ends ends(text);
+            const Entry* entry = firstOf(ends);
+            while (entry->pText != nullptr && !(entry->ends == ends))
+            {
+                ++entry;
+            }
+            return entry->pText;
         }
-        const Ends ends(text);
-        const Entry* entry = &m_Entries[slotOf(ends)];
-        while (entry->pText != nullptr && !entry->is(ends, text))
-        {
-            entry = entry == &m_Entries.back() ? &m_Entries.front() : entry + 1;
-        }
-        return entry->pText;
+        return text.size() <= s_LongestWord ? findLong(text) : nullptr;
     }
 
 private:
     static constexpr unsigned int sm_SlotBits = 10;
+    static constexpr std::size_t sm_Overflow = 32; ///< more than ever stand behind their own slot
 
     struct Entry
     {
-        bool is(const Ends& other, std::string_view text) const
-        {
-            return ends == other && (text.size() <= Ends::sm_Whole || pText->view() == text);
-        }
-
         Ends ends{"  "};
         LmStringBuffer* pText = nullptr;
     };
 
-    /// Multiplied by an odd number, the bits that decide gather at the top.
-    static std::size_t slotOf(const Ends& ends)
+    __attribute__((noinline)) LmStringBuffer* findLong(std::string_view text) const
+    {
+        const Entry* entry = firstOf(Ends(text));
+        while (entry->pText != nullptr && entry->pText->view() != text)
+        {
+            ++entry;
+        }
+        return entry->pText;
+    }
+
+    const Entry* firstOf(const Ends& ends) const
     {
         const std::uint64_t mixed = (ends.front + ends.back * 31 + ends.size) * 0x9E3779B97F4A7C15U;
-        return static_cast<std::size_t>(mixed >> (64 - sm_SlotBits));
+        return &m_Entries[static_cast<std::size_t>(mixed >> (64 - sm_SlotBits))];
     }
 
     void enter(std::string_view text)
@@ -150,16 +155,19 @@ private:
             return;
         }
         const Ends ends(text);
-        std::size_t slot = slotOf(ends);
-        while (m_Entries[slot].pText != nullptr)
+        Entry* entry = m_Entries.data() + (firstOf(ends) - m_Entries.data());
+        while (entry->pText != nullptr)
         {
-            slot = (slot + 1) % m_Entries.size();
+            ++entry;
         }
-        m_Entries[slot].ends = ends;
-        m_Entries[slot].pText = pText;
+        if (entry != &m_Entries.back()) // which stays empty: it ends every search
+        {
+            entry->ends = ends;
+            entry->pText = pText;
+        }
     }
 
-    std::array<Entry, std::size_t(1) << sm_SlotBits> m_Entries;
+    std::array<Entry, (std::size_t(1) << sm_SlotBits) + sm_Overflow> m_Entries;
 };
 
 CommonTexts s_CommonTexts;
@@ -173,7 +181,12 @@ LmStringBuffer* lmSdpSharedText(std::string_view text) noexcept
     return s_CommonTexts.find(text);
 }
 
-LmString lmSdpWord(LmInputStream& in)
+void lmSdpTakeWords(LmInputStream& in, std::initializer_list<LmString*> members)
 {
-    return lmWithCursor(in, [](auto& cursor) { return lmSdpText(lmTakeWord(cursor)); });
+    lmWithCursor(in, [members](auto& cursor) {
+        for (LmString* const pMember : members)
+        {
+            *pMember = lmSdpText(lmTakeWord(cursor));
+        }
+    });
 }

@@ -4,6 +4,7 @@
 #include "LmLibs/LmUtil/LmString.h"
 #include "sdp/LmSdpExport.h"
 
+#include <initializer_list>
 #include <string_view>
 
 /// The shared texts of single letters by their code; null for any other, and until the library has been loaded.
@@ -22,7 +23,7 @@ inline LmString lmSdpText(std::string_view text)
         return LmString();
     }
     LmStringBuffer* const pShared = lmSdpSharedText(text);
-    return pShared != nullptr ? LmString(*pShared) : LmString(text);
+    return pShared != nullptr ? LmString::sShareImmortal(*pShared) : LmString(text);
 }
 
 /// The token of a line or description; the single letters are shared.
@@ -30,8 +31,8 @@ inline LmString lmSdpToken(const char* token)
 {
     const bool isLetter = token != nullptr && token[0] != '\0' && token[1] == '\0';
     LmStringBuffer* const pShared = isLetter ? lmSdpLetters[static_cast<unsigned char>(token[0])] : nullptr;
-    return pShared != nullptr ? LmString(*pShared) : LmString(token);
+    return pShared != nullptr ? LmString::sShareImmortal(*pShared) : LmString(token);
 }
 
-/// The next word of this line, as `operator>>` takes it.
-LMSDP_API LmString lmSdpWord(LmInputStream& in);
+/// Gives each member the next word of this line, as `operator>>` takes it.
+LMSDP_API void lmSdpTakeWords(LmInputStream& in, std::initializer_list<LmString*> members);

@@ -75,7 +75,7 @@ inline unsigned int LmSdpDescription::sGetFieldPosition(const char* token)
 /// Nearly all tokens are single letters, for which no search of a text in a text is needed.
 inline bool LmSdpDescription::hasToken(const char* token) const
 {
-    if (token != nullptr && isLetter(token[0]) && token[1] == '\0')
+    if (__builtin_expect(token != nullptr && isLetter(token[0]) && token[1] == '\0', 1))
     {
         return (m_Letters & bitOf(token[0])) != 0;
     }
@@ -108,19 +108,11 @@ LmHandle<LmSdpField> LmSdpDescription::getField(const char* token) const
     return slot < sm_SlotCount ? m_Fields[slot] : nullptr;
 }
 
-void LmSdpDescription::addField(const LmHandle<LmSdpField>& hField)
-{
-    if (hField)
-    {
-        file(LmHandle<LmSdpField>(hField));
-    }
-}
-
-void LmSdpDescription::file(LmHandle<LmSdpField>&& hField)
+__attribute__((always_inline)) inline void LmSdpDescription::file(LmHandle<LmSdpField>&& hField)
 {
     LmSdpField* const pField = hField.untested();
     const unsigned int slot = ownSlot(pField->getToken());
-    if (slot >= sm_SlotCount)
+    if (__builtin_expect(slot >= sm_SlotCount, 0))
     {
         LmException::sThrow("field doesn't belong in this description type LmSdpDescription::addField()");
     }
@@ -135,6 +127,14 @@ void LmSdpDescription::file(LmHandle<LmSdpField>&& hField)
         LmException::sThrow("field is already in this description LmSdpDescription::addField()");
     }
     pFirst->addNext(std::move(hField));
+}
+
+void LmSdpDescription::addField(const LmHandle<LmSdpField>& hField)
+{
+    if (hField)
+    {
+        file(LmHandle<LmSdpField>(hField));
+    }
 }
 
 bool LmSdpDescription::checkForChangeFlag()
@@ -164,9 +164,10 @@ void LmSdpDescription::sAddConstructor(const char* token, Constructor constructo
 void LmSdpDescription::parse(LmInputStream& in)
 {
     const Quorvex::TraceScope trace(s_Logger, "LmSdpDescription::parse");
+    const Quorvex::Logger* const pFieldLogger = LmSdpField::sListening();
     do
     {
-        file(LmSdpField::sConstructFrom(in));
+        file(LmSdpField::sConstructFrom(in, pFieldLogger));
     } while (isOwnLineNext(in));
 }
 

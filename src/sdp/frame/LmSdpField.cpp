@@ -16,10 +16,12 @@ Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpField");
 using TokenBuffer = char[4];
 
 /// Takes a line's token and the "=" behind it. Nearly every token is one letter, which a window shows at a glance.
-void takeToken(LmInputStream& in, TokenBuffer& token)
+inline void takeToken(LmInputStream& in, TokenBuffer& token)
 {
     const char* const next = in.windowBegin();
-    if (in.hasWindow() && in.windowEnd() - next >= 2 && next[0] > ' ' && next[0] != '=' && next[1] == '=')
+    const bool isLetter =
+        in.hasWindow() && in.windowEnd() - next >= 2 && next[1] == '=' && next[0] > ' ' && next[0] != '=';
+    if (__builtin_expect(isLetter, 1))
     {
         token[0] = next[0];
         token[1] = '\0';
@@ -42,21 +44,42 @@ LmSdpField::~LmSdpField()
 
 LmHandle<LmSdpField> LmSdpField::sConstructFrom(LmInputStream& in)
 {
-    const Quorvex::Logger* const pLogger = s_Logger.listening(Quorvex::eDebug);
-    const Quorvex::TraceScope trace(pLogger, "LmSdpField::sConstructFrom");
-    TokenBuffer tokenBuf;
-    takeToken(in, tokenBuf);
-    QUORVEX_LOG(pLogger, Quorvex::eDebug, "LmSdpField", "tokenBuf=" << tokenBuf << "|");
+    return sConstructFrom(in, sListening());
+}
 
-    const Constructor constructor = sm_pConstructorMap == nullptr ? nullptr : sm_pConstructorMap->find(tokenBuf);
+const Quorvex::Logger* LmSdpField::sListening()
+{
+    return s_Logger.listening(Quorvex::eDebug);
+}
+
+/// Makes the field that is registered for a token, and has it read the rest of the line.
+inline LmHandle<LmSdpField> LmSdpField::sRead(const char* token, LmInputStream& in)
+{
+    const Constructor constructor = sm_pConstructorMap == nullptr ? nullptr : sm_pConstructorMap->find(token);
     LmSdpField* pField = constructor == nullptr ? nullptr : constructor();
-    if (pField == nullptr)
+    if (__builtin_expect(pField == nullptr, 0))
     {
-        pField = new LmSdpUnusedField(tokenBuf);
+        pField = new LmSdpUnusedField(token);
     }
     LmHandle<LmSdpField> hField(pField);
     pField->parse(in);
     return hField;
+}
+
+LmHandle<LmSdpField> LmSdpField::sTake(LmInputStream& in)
+{
+    TokenBuffer tokenBuf;
+    takeToken(in, tokenBuf);
+    return sRead(tokenBuf, in);
+}
+
+LmHandle<LmSdpField> LmSdpField::sTakeTraced(LmInputStream& in, const Quorvex::Logger* pLogger)
+{
+    const Quorvex::TraceScope trace(pLogger, "LmSdpField::sConstructFrom");
+    TokenBuffer tokenBuf;
+    takeToken(in, tokenBuf);
+    QUORVEX_LOG(pLogger, Quorvex::eDebug, "LmSdpField", "tokenBuf=" << tokenBuf << "|");
+    return sRead(tokenBuf, in);
 }
 
 void LmSdpField::sAddConstructor(const char* token, Constructor constructor)

@@ -11,6 +11,11 @@
 
 #include <utility>
 
+namespace Quorvex
+{
+class Logger;
+}
+
 template <typename Product>
 class LmSdpRegistry;
 
@@ -70,6 +75,19 @@ protected:
 
 private:
     friend class LmSdpDescription;
+
+    ///@{
+    /// Reading in two steps, for who reads many lines: the logger, null where no debug line would be heard, is asked
+    /// once.
+    static const Quorvex::Logger* sListening();
+    static LmHandle<LmSdpField> sConstructFrom(LmInputStream& in, const Quorvex::Logger* pLogger)
+    {
+        return __builtin_expect(pLogger == nullptr, 1) ? sTake(in) : sTakeTraced(in, pLogger);
+    }
+    static LmHandle<LmSdpField> sTake(LmInputStream& in);
+    static LmHandle<LmSdpField> sTakeTraced(LmInputStream& in, const Quorvex::Logger* pLogger);
+    static LmHandle<LmSdpField> sRead(const char* token, LmInputStream& in);
+    ///@}
 
     /// Appends at the tail of the chain that begins here.
     void addNext(LmHandle<LmSdpField>&& hNext) { last()->m_Next = std::move(hNext); }

@@ -32,7 +32,7 @@ public:
     /// What is registered for a token; null for none. Allocates nothing.
     Constructor find(const char* token) const
     {
-        if (token[0] != '\0' && token[1] == '\0')
+        if (__builtin_expect(token[0] != '\0' && token[1] == '\0', 1))
         {
             return m_ByLetter[static_cast<unsigned char>(token[0])];
         }

@@ -6,8 +6,8 @@
 #include "core/LogStatement.h"
 #include "core/TraceScope.h"
 
-#include <cstring>
 #include <type_traits>
+#include <utility>
 
 namespace
 {
@@ -19,9 +19,9 @@ constexpr const char* s_FieldTokens = "vosiuepcbzka";
 /// The time descriptions are written in front of this slot, that of `z=`.
 constexpr unsigned int s_SlotBehindTimes = 12;
 
-bool isToken(const char* token, const char* letter)
+bool isToken(const char* token, char letter)
 {
-    return token != nullptr && std::strcmp(token, letter) == 0;
+    return token != nullptr && token[0] == letter && token[1] == '\0';
 }
 
 } // namespace
@@ -35,43 +35,52 @@ LmSdpSessionDescription::~LmSdpSessionDescription() = default;
 
 LmHandle<LmSdpDescription> LmSdpSessionDescription::getDescription(const char* token)
 {
-    const Quorvex::TraceScope trace(s_Logger, "LmSdpSessionDescription::getDescription");
-    if (isToken(token, "t"))
+    return first(token, s_Logger.listening(Quorvex::eTrace));
+}
+
+/// The first description of a kind; null when there is none.
+inline LmSdpDescription* LmSdpSessionDescription::first(const char* token, const Quorvex::Logger* pLogger) const
+{
+    const Quorvex::TraceScope trace(pLogger, "LmSdpSessionDescription::getDescription");
+    if (isToken(token, 't'))
     {
-        return m_TimeDescription;
+        return m_TimeDescription.untested();
     }
-    if (isToken(token, "m"))
-    {
-        return m_MediaDescription;
-    }
-    return nullptr;
+    return isToken(token, 'm') ? m_MediaDescription.untested() : nullptr;
 }
 
 void LmSdpSessionDescription::addDescription(const LmHandle<LmSdpDescription>& hDescription)
 {
-    const Quorvex::TraceScope trace(s_Logger, "LmSdpSessionDescription::addDescription");
-    if (hDescription.isNull())
+    add(LmHandle<LmSdpDescription>(hDescription));
+}
+
+void LmSdpSessionDescription::add(LmHandle<LmSdpDescription>&& hDescription)
+{
+    const Quorvex::Logger* const pLogger = s_Logger.listening(Quorvex::eTrace);
+    const Quorvex::TraceScope trace(pLogger, "LmSdpSessionDescription::addDescription");
+    LmSdpDescription* const pDescription = hDescription;
+    if (pDescription == nullptr)
     {
         return;
     }
-    const char* const token = hDescription->getToken();
-    const LmHandle<LmSdpTimeDescription> hTime = isToken(token, "t") ? hDescription : nullptr;
-    const LmHandle<LmSdpMediaDescription> hMedia = isToken(token, "m") ? hDescription : nullptr;
-    if (hTime.isNull() && hMedia.isNull())
+    const char* const token = pDescription->getToken();
+    const bool isTime = isToken(token, 't') && LmTypeTest<LmSdpTimeDescription>::sCast(pDescription) != nullptr;
+    const bool isMedia = isToken(token, 'm') && LmTypeTest<LmSdpMediaDescription>::sCast(pDescription) != nullptr;
+    if (!isTime && !isMedia)
     {
         LmException::sThrow("trying to add unknown description in LmSdpSessionDescription::addDescription()");
     }
-    if (const LmHandle<LmSdpDescription> hFirst = getDescription(token))
+    if (LmSdpDescription* const pFirst = first(token, pLogger))
     {
-        hFirst->addNext(hDescription);
+        pFirst->addNext(std::move(hDescription));
     }
-    else if (hTime)
+    else if (isTime)
     {
-        m_TimeDescription = hTime;
+        m_TimeDescription = hDescription;
     }
     else
     {
-        m_MediaDescription = hMedia;
+        m_MediaDescription = hDescription;
     }
 }
 
@@ -80,7 +89,7 @@ void LmSdpSessionDescription::parse(LmInputStream& in)
     LmSdpDescription::parse(in);
     while (LmStreamTokenizer::sDiscardWhite(in) == 't')
     {
-        addDescription(LmSdpDescription::sConstructFrom(in));
+        add(LmSdpDescription::sConstructFrom(in));
     }
     const int next = LmStreamTokenizer::sDiscardWhite(in);
     if (next != 'm' && next != -1)
@@ -89,7 +98,7 @@ void LmSdpSessionDescription::parse(LmInputStream& in)
     }
     while (LmStreamTokenizer::sDiscardWhite(in) == 'm')
     {
-        addDescription(LmSdpDescription::sConstructFrom(in));
+        add(LmSdpDescription::sConstructFrom(in));
     }
 }
 

@@ -45,6 +45,9 @@ private:
     /// Also asks the first time and the first media description.
     bool checkForChangeFlag();
 
+    LmSdpDescription* first(const char* token, const Quorvex::Logger* pLogger) const;
+    void add(LmHandle<LmSdpDescription>&& hDescription);
+
     LmHandle<LmSdpTimeDescription> m_TimeDescription;
     LmHandle<LmSdpMediaDescription> m_MediaDescription;
 };

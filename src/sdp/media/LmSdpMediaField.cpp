@@ -14,6 +14,8 @@ namespace
 
 Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpMediaField");
 
+constexpr std::size_t s_LongestText = 255; ///< of the ports, and of all formats
+
 [[noreturn]] void refuseIncomplete()
 {
     LmException::sThrow("LmSdpMediaField::parse Incomplete Media Field");
@@ -25,15 +27,22 @@ Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpMediaField");
 }
 
 /// Takes the one character behind a word; a blank must not follow it.
-void takeSeparator(LmInputStream& in)
+template <typename Cursor>
+bool isLineOver(Cursor& cursor)
 {
-    in.read();
-    in.mark(1);
-    if (in.read() == ' ')
+    const int next = cursor.peek();
+    return next == -1 || lmIsLineEnd(next);
+}
+
+/// Takes the byte behind a value. One blank stands there; a second one is refused.
+template <typename Cursor>
+void takeSeparator(Cursor& cursor)
+{
+    lmTakeByte(cursor);
+    if (lmTakeIf(cursor, ' '))
     {
         refuseIncomplete();
     }
-    in.reset();
 }
 
 } // namespace
@@ -123,31 +132,41 @@ void LmSdpMediaField::removeMediaFormat(unsigned int format)
 void LmSdpMediaField::parse(LmInputStream& in)
 {
     const Quorvex::TraceScope trace(s_Logger, "LmSdpMediaField::parse");
-    if (LmStreamTokenizer::sIsEmptyLine(in))
+    lmWithCursor(in, [this](auto& cursor) { read(cursor); });
+}
+
+template <typename Cursor>
+void LmSdpMediaField::read(Cursor& cursor)
+{
+    if (isLineOver(cursor))
     {
         refuseIncomplete();
     }
-    m_MediaType = lmSdpWord(in);
-    takeSeparator(in);
+    m_MediaType = lmSdpText(lmTakeWord(cursor));
+    takeSeparator(cursor);
 
-    char buffer[256];
-    if (!LmStreamTokenizer::sGetToken(in, " ", buffer, sizeof buffer))
+    cursor.skipWhile(lmIsSpace);
+    const bool isOver = cursor.peek() == -1;
+    const std::string_view ports = cursor.takeUntil([](int c) { return c == ' '; });
+    if (isOver || ports.size() > s_LongestText)
     {
         refuse();
     }
-    takePort(buffer);
-    takeSeparator(in);
+    takePort(lmUpToNul(ports));
+    takeSeparator(cursor);
 
-    m_Transport = lmSdpWord(in);
-    if (LmStreamTokenizer::sIsEmptyLine(in))
+    m_Transport = lmSdpText(lmTakeWord(cursor));
+    if (isLineOver(cursor))
     {
         refuseIncomplete();
     }
-    if (!LmStreamTokenizer::sGetLine(in, buffer, sizeof buffer))
+    const std::string_view formats = lmTakeLine(cursor);
+    if (formats.size() > s_LongestText)
     {
         refuse();
     }
-    setMediaFormats(buffer);
+    m_MediaFormats = lmWords(lmUpToNul(formats));
+    setChangedFlag();
 }
 
 void LmSdpMediaField::serialize(LmOutputStream& out) const
@@ -173,7 +192,7 @@ LmSdpField* LmSdpMediaField::sConstruct()
 
 void LmSdpMediaField::takePort(std::string_view token)
 {
-    const std::size_t slash = token.find('/');
+    const std::size_t slash = lmFindByte(token, '/');
     if (slash == std::string_view::npos)
     {
         setPort(static_cast<unsigned int>(lmAtoi(token)));

@@ -81,6 +81,8 @@ public:
 private:
     LmSdpMediaField();
 
+    template <typename Cursor>
+    void read(Cursor& cursor);
     void takePort(std::string_view token);
     LmSdpWordList::iterator find(unsigned int format);
 
