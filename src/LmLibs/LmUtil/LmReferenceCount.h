@@ -25,12 +25,17 @@ public:
     std::uint32_t increment() noexcept
     {
         const std::uint32_t count = m_Count.load(std::memory_order_relaxed);
+        // An object without an owner is in the hands of one thread only.
+        if (count == 0)
+        {
+            m_Count.store(1, std::memory_order_relaxed);
+            return 1;
+        }
         if (count == sm_Immortal)
         {
             return count;
         }
-        // An object without an owner is in the hands of one thread only.
-        if (count == 0 || __libc_single_threaded)
+        if (__libc_single_threaded)
         {
             m_Count.store(count + 1, std::memory_order_relaxed);
             return count + 1;

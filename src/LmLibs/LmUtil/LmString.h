@@ -22,7 +22,7 @@ public:
 
     /// A copy of the bytes, NUL bytes included. @throws std::bad_alloc
     explicit LmString(std::string_view text)
-        : LmString(text.empty() ? *LmStringBuffer::sEmpty() : *LmStringBuffer::sCreate(text))
+        : LmHandle(text.empty() ? LmStringBuffer::sEmpty() : LmStringBuffer::sCreateOwned(text), Adopt())
     {
     }
 
@@ -67,9 +67,10 @@ public:
     ~LmString()
     {
         // Counted here, where the class is known, rather than through the object's table.
-        if (LmStringBuffer* const pBuffer = static_cast<LmStringBuffer*>(detach()))
+        if (LmStringBuffer* const pBuffer = buffer())
         {
             pBuffer->Release();
+            detach();
         }
     }
 

@@ -117,11 +117,23 @@ LmStringBuffer* LmStringBuffer::sCreate(const char* text, unsigned int length, u
     return sCreate(whole, capacity);
 }
 
-LmStringBuffer* LmStringBuffer::sCreate(std::string_view text, unsigned int capacity)
+inline LmStringBuffer* LmStringBuffer::sMakeWith(std::string_view text, std::size_t room)
 {
-    LmStringBuffer* const pBuffer = sMake(std::max<std::size_t>(text.size(), capacity));
+    LmStringBuffer* const pBuffer = sMake(room);
     copyShort(pBuffer->m_Text, text);
     pBuffer->setText(pBuffer->m_Text, text.size());
+    return pBuffer;
+}
+
+LmStringBuffer* LmStringBuffer::sCreate(std::string_view text, unsigned int capacity)
+{
+    return sMakeWith(text, std::max<std::size_t>(text.size(), capacity));
+}
+
+LmStringBuffer* LmStringBuffer::sCreateOwned(std::string_view text)
+{
+    LmStringBuffer* const pBuffer = sMakeWith(text, text.size());
+    pBuffer->LmObject::AddRef();
     return pBuffer;
 }
 

@@ -21,6 +21,9 @@ public:
     /// The same for bytes with a known end.
     static LmStringBuffer* sCreate(std::string_view text, unsigned int capacity = 0);
 
+    /// The same with one owner, who is to adopt it.
+    static LmStringBuffer* sCreateOwned(std::string_view text);
+
     /// The one empty text that all share; it is never counted.
     static LmStringBuffer* sEmpty() noexcept { return sm_pEmpty; }
 
@@ -97,6 +100,7 @@ private:
     static void operator delete(void*, void*) noexcept {}
 
     static LmStringBuffer* sMake(std::size_t room);
+    static LmStringBuffer* sMakeWith(std::string_view text, std::size_t room);
     static void sDestroy(LmStringBuffer* pBuffer) noexcept;
     static char* sInnerText(void* block) noexcept;
     static Room& sRoom(char* text) noexcept;

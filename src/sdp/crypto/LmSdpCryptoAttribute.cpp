@@ -9,6 +9,7 @@
 
 #include <strings.h>
 
+#include <charconv>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,6 +23,7 @@ Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpCryptoAttribute");
 
 constexpr unsigned int s_Powers = 64;
 constexpr std::size_t s_LongestToken = 255;
+constexpr std::size_t s_UsualLength = 160; ///< of a value with one key
 
 constexpr LmFewBytes s_BehindMethod = {':', ':', ':', ':', ':'};
 constexpr LmFewBytes s_BehindKey = {';', '|', ' ', '\r', '\n'};
@@ -60,9 +62,17 @@ bool isInline(std::string_view method)
     return method.size() == name.size() && ::strncasecmp(method.data(), name.data(), name.size()) == 0;
 }
 
-std::string asSigned(unsigned int number)
+template <typename Number>
+void appendNumber(std::string& text, Number number)
 {
-    return std::to_string(static_cast<int>(number));
+    char digits[20]; // the longest has 20, as a 64-bit one without a sign
+    text.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+}
+
+/// A value that is not set is written as -1.
+void appendSigned(std::string& text, unsigned int number)
+{
+    appendNumber(text, static_cast<int>(number));
 }
 
 void appendKey(std::string& text, const LmCryptoKey& key)
@@ -70,15 +80,26 @@ void appendKey(std::string& text, const LmCryptoKey& key)
     text.append("inline:").append(key.m_Key.view());
     if (key.m_Lifetime != LmCryptoKey::sm_NoLifetime)
     {
+        text += '|';
         const unsigned int power = key.getLifetimeAsPowerOfTwo();
-        text += power != 0 ? "|2^" + std::to_string(power) : "|" + std::to_string(key.m_Lifetime);
+        if (power != 0)
+        {
+            text += "2^";
+            appendNumber(text, power);
+        }
+        else
+        {
+            appendNumber(text, key.m_Lifetime);
+        }
     }
     if (key.m_MkiValue != LmCryptoKey::sm_NotSet)
     {
-        text += "|" + asSigned(key.m_MkiValue);
+        text += '|';
+        appendSigned(text, key.m_MkiValue);
         if (key.m_MkiLength != LmCryptoKey::sm_NotSet)
         {
-            text += ":" + asSigned(key.m_MkiLength);
+            text += ':';
+            appendSigned(text, key.m_MkiLength);
         }
     }
 }
@@ -451,7 +472,10 @@ void LmSdpCryptoAttribute::buildValue() const
     {
         return;
     }
-    std::string text = asSigned(m_Tag) + " " + getCryptoSuiteString();
+    std::string text;
+    text.reserve(s_UsualLength);
+    appendSigned(text, m_Tag);
+    text.append(" ").append(getCryptoSuiteString());
     text += m_Keys.size() == 1 ? " " : "\r\n";
     for (const LmCryptoKey& key : m_Keys)
     {

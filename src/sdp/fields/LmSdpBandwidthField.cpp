@@ -41,15 +41,14 @@ void LmSdpBandwidthField::parse(LmInputStream& in)
     constexpr const char* invalid = "LmSdpBandwidthField::parse() Invalid Bandwidth Field";
     lmRefuseEmptyLine(in, invalid);
     const LmLine line(in);
-    const std::size_t colon = line.view().find(':');
-    if (colon == std::string_view::npos)
+    if (!line.hasColon())
     {
         LmSdpParseError::sThrow(invalid);
     }
     // With nothing in front of the colon, the type is the whole line.
-    m_Type = lmSdpText(lmSubstr(line.view(), 0, colon));
+    m_Type = lmSdpText(lmSubstr(line.view(), 0, line.inFrontOfColon().size()));
     setChangedFlag();
-    takeAmount(lmUpToNul(line.view().substr(colon + 1)));
+    takeAmount(line.behindColon());
 }
 
 void LmSdpBandwidthField::serialize(LmOutputStream& out) const

@@ -2,6 +2,7 @@
 
 #include "LmLibs/LmUtil/LmCharacters.h"
 #include "LmLibs/LmUtil/LmLine.h"
+#include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 
 namespace
@@ -36,18 +37,18 @@ void LmSdpKeyField::parse(LmInputStream& in)
     lmRefuseEmptyLine(in, "LmSdpKeyField::parse() Incomplete Key Field");
     const LmLine wholeLine(in);
     const std::string_view line = wholeLine.view();
-    const std::size_t colon = line.find(':');
-    if (colon == std::string_view::npos)
+    if (!wholeLine.hasColon())
     {
         if (line != "prompt")
         {
             LmException::sThrow(s_Invalid);
         }
-        m_Method = LmString(line);
+        m_Method = lmSdpText(line);
         return;
     }
     // With nothing in front of the colon, the method is the whole line.
-    m_Method = LmString(lmSubstr(line, 0, colon));
+    const std::size_t colon = wholeLine.inFrontOfColon().size();
+    m_Method = lmSdpText(lmSubstr(line, 0, colon));
     if (m_Method.compareWith("clear") == 0 || m_Method.compareWith("base64") == 0)
     {
         m_Key = LmString(line.substr(colon + 1));

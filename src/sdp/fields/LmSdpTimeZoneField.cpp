@@ -1,11 +1,11 @@
 #include "sdp/fields/LmSdpTimeZoneField.h"
 
-#include "LmLibs/LmUtil/LmCharacters.h"
+#include "LmLibs/LmUtil/LmStreamCursor.h"
 #include "sdp/frame/LmSdpLine.h"
 #include "sdp/frame/LmSdpWords.h"
 
 #include <array>
-#include <cstdio>
+#include <charconv>
 
 namespace
 {
@@ -16,10 +16,11 @@ namespace
 }
 
 /// Walks over the value of a `z=` line and collects its normal form.
+template <typename Cursor>
 class Reader
 {
 public:
-    explicit Reader(LmInputStream& in) : m_In(in) {}
+    explicit Reader(Cursor& cursor) : m_Cursor(cursor) {}
 
     /// The elements, each two separated by one blank.
     std::string_view read()
@@ -48,7 +49,7 @@ private:
 
     void takeAdjustmentTime()
     {
-        int next = m_In.read();
+        int next = lmTakeByte(m_Cursor);
         if (!lmIsDigit(next) || next == '0')
         {
             refuse();
@@ -62,7 +63,7 @@ private:
             {
                 refuse();
             }
-            next = m_In.read();
+            next = lmTakeByte(m_Cursor);
         }
         if (digits < sm_FewestDigits || next != ' ')
         {
@@ -73,18 +74,13 @@ private:
 
     void takeOffset()
     {
-        m_In.mark(1);
-        if (m_In.read() == '-')
+        if (lmTakeIf(m_Cursor, '-'))
         {
             store('-');
         }
-        else
-        {
-            m_In.reset();
-        }
-        char digits[16];
-        std::snprintf(digits, sizeof digits, "%u", LmStreamTokenizer::sGetUnsigned(m_In));
-        for (const char* digit = digits; *digit != '\0'; ++digit)
+        char digits[10];
+        const char* const end = std::to_chars(digits, digits + sizeof digits, lmTakeUnsigned(m_Cursor)).ptr;
+        for (const char* digit = digits; digit != end; ++digit)
         {
             store(*digit);
         }
@@ -97,10 +93,10 @@ private:
     /// Takes what stands behind an offset: a blank, a unit with a blank, or the line end.
     bool isElementNext()
     {
-        int next = m_In.read();
+        int next = lmTakeByte(m_Cursor);
         if (next == '\r')
         {
-            m_In.read();
+            lmTakeByte(m_Cursor);
             return false;
         }
         if (next == '\n')
@@ -110,7 +106,7 @@ private:
         if (next == 'd' || next == 'h' || next == 'm' || next == 's')
         {
             store(next);
-            next = m_In.read();
+            next = lmTakeByte(m_Cursor);
             if (next != ' ')
             {
                 refuse();
@@ -124,7 +120,7 @@ private:
         return true;
     }
 
-    LmInputStream& m_In;
+    Cursor& m_Cursor;
     std::array<char, 512> m_Text;
     std::size_t m_Length = 0;
 };
@@ -182,7 +178,7 @@ void LmSdpTimeZoneField::parse(LmInputStream& in)
 {
     lmRefuseEmptyLine(in, "LmSdpTimeZoneField::parse() Incomplete Time Zone Field");
     LmSdpWordList elements;
-    appendElements(elements, Reader(in).read());
+    lmWithCursor(in, [&elements](auto& cursor) { appendElements(elements, Reader(cursor).read()); });
     m_TimeZoneElements = std::move(elements);
     setChangedFlag();
 }

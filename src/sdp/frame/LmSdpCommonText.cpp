@@ -18,6 +18,8 @@ constexpr const char* s_Words[] = {
     "a", "b", "c", "e", "i", "k", "m", "o", "p", "r", "s", "t", "u", "v", "z", "-", "vosiuepcbzka", "tr", "micbka",
     // network and address types, bandwidth types
     "IN", "IP4", "IP6", "0.0.0.0", "127.0.0.1", "AS", "CT", "TIAS", "RS", "RR",
+    // key methods
+    "clear", "base64", "prompt",
     // media words and transports
     "audio", "video", "text", "image", "application", "message", "udp", "udptl", "UDPTL", "UDP", "TCP", "RTP/AVP",
     "RTP/AVPF", "RTP/SAVP", "RTP/SAVPF", "UDP/TLS/RTP/SAVP", "UDP/TLS/RTP/SAVPF", "DTLS/SCTP", "UDP/DTLS/SCTP",

@@ -5,7 +5,7 @@
 #include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"
 
-#include <cstdio>
+#include <utility>
 
 namespace
 {
@@ -157,8 +157,8 @@ void LmSdpRtpAttribute::change(unsigned int& member, const char* text)
     }
 }
 
-void LmSdpRtpAttribute::change(LmString& member, const LmString& text)
+void LmSdpRtpAttribute::change(LmString& member, LmString text)
 {
-    member = text;
+    member = std::move(text);
     setChangedFlag(true);
 }

@@ -71,7 +71,7 @@ private:
     void read(std::string_view line);
     void change(unsigned int& member, unsigned int value);
     void change(unsigned int& member, const char* text);
-    void change(LmString& member, const LmString& text);
+    void change(LmString& member, LmString text);
 
     unsigned int m_PayloadType = 0;
     LmString m_EncodingName;
