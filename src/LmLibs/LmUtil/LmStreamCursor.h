@@ -85,13 +85,14 @@ private:
 class LmByteCursor
 {
 public:
-    explicit LmByteCursor(LmInputStream& in) : m_In(in) {}
+    /// `readLimit` is what the stream's `mark` is given, at least as much as is read in front of a `reset`.
+    explicit LmByteCursor(LmInputStream& in, unsigned int readLimit = 1) : m_In(in), m_ReadLimit(readLimit) {}
     LmByteCursor(const LmByteCursor&) = delete;
     LmByteCursor& operator=(const LmByteCursor&) = delete;
 
     int peek()
     {
-        m_In.mark(1);
+        m_In.mark(m_ReadLimit);
         const int next = m_In.read();
         m_In.reset();
         return next;
@@ -100,7 +101,7 @@ public:
 
     bool takePair(char first, char second)
     {
-        m_In.mark(2);
+        m_In.mark(std::max(m_ReadLimit, 2U));
         if (m_In.read() == static_cast<unsigned char>(first) && m_In.read() == static_cast<unsigned char>(second))
         {
             return true;
@@ -152,27 +153,28 @@ public:
 
 private:
     LmInputStream& m_In;
+    const unsigned int m_ReadLimit;
     std::string m_Taken;
 };
 
 /// The way of streams without a window, kept out of the way of the other.
 template <typename Operation>
-__attribute__((noinline)) auto lmWithByteCursor(LmInputStream& in, Operation& operation)
+__attribute__((noinline)) auto lmWithByteCursor(LmInputStream& in, Operation& operation, unsigned int readLimit)
 {
-    LmByteCursor cursor(in);
+    LmByteCursor cursor(in, readLimit);
     return operation(cursor);
 }
 
-/// Calls `operation` with the cursor that fits the stream.
+/// Calls `operation` with the cursor that fits the stream. `readLimit` is for one without a window.
 template <typename Operation>
-inline auto lmWithCursor(LmInputStream& in, Operation operation)
+inline auto lmWithCursor(LmInputStream& in, Operation operation, unsigned int readLimit = 1)
 {
     if (__builtin_expect(in.hasWindow(), 1))
     {
         LmWindowCursor cursor(in);
         return operation(cursor);
     }
-    return lmWithByteCursor(in, operation);
+    return lmWithByteCursor(in, operation, readLimit);
 }
 
 /// Takes the next byte where it is the wanted one.

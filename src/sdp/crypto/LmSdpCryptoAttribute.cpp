@@ -22,6 +22,7 @@ namespace
 Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpCryptoAttribute");
 
 constexpr unsigned int s_Powers = 64;
+constexpr unsigned int s_WholeText = 0xFFFFFFFF; ///< may be read in front of a `reset`
 constexpr std::size_t s_LongestToken = 255;
 constexpr std::size_t s_UsualLength = 160; ///< of a value with one key
 
@@ -194,7 +195,8 @@ LmSdpCryptoAttribute::LmSdpCryptoAttribute(std::string_view text) : LmSdpAttribu
 
 void LmSdpCryptoAttribute::parse(LmInputStream& in)
 {
-    lmWithCursor(in, [this](auto& cursor) { read(cursor); });
+    lmWithCursor(
+        in, [this](auto& cursor) { read(cursor); }, s_WholeText);
 }
 
 template <typename Cursor>
