@@ -59,6 +59,7 @@ struct ThreadHeapAllocator
 
     ThreadHeapAllocator() = default;
     template <typename U>
+    // NOLINTNEXTLINE(google-explicit-constructor): containers convert their allocators
     ThreadHeapAllocator(const ThreadHeapAllocator<U>&) noexcept
     {
     }

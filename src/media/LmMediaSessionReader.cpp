@@ -82,7 +82,7 @@ LmHandle<LmMediaStream> makeStream(LmSdpMediaDescription& description, const LmI
     Codecs codecs;
     addFormats(codecs, hMedia->getMediaFormats());
     addNames(codecs, description.getField("a"));
-    const LmHandle<LmMediaStream> hStream = new LmMediaStream(known->type, hMedia->getPort(), address);
+    LmHandle<LmMediaStream> hStream = new LmMediaStream(known->type, hMedia->getPort(), address);
     hStream->addCodecs(codecs);
     return hStream;
 }

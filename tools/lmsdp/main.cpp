@@ -32,6 +32,17 @@ std::string usageMessage(const CLI::App*, const CLI::Error& error)
     return "lmsdp: " + lmsdp::printable(error.what()) + "\nRun lmsdp with --help for more information.\n";
 }
 
+/// The exit status for a command line that was not understood, or that asked for help.
+int exitStatusFor(const CLI::ParseError& error, CLI::App& app)
+{
+    if (app.get_subcommands().empty() && !app.remaining().empty())
+    {
+        const CLI::ExtrasError unknown("there is no command " + app.remaining().front(), CLI::ExitCodes::ExtrasError);
+        return app.exit(unknown) == 0 ? lmsdp::exitClean : lmsdp::exitUsage;
+    }
+    return app.exit(error) == 0 ? lmsdp::exitClean : lmsdp::exitUsage;
+}
+
 int run(int argc, char** argv)
 {
     CLI::App app("Looks into SDP bodies.", "lmsdp");
@@ -82,13 +93,7 @@ int run(int argc, char** argv)
     }
     catch (const CLI::ParseError& error)
     {
-        if (app.get_subcommands().empty() && !app.remaining().empty())
-        {
-            const CLI::ExtrasError unknown("there is no command " + app.remaining().front(),
-                                           CLI::ExitCodes::ExtrasError);
-            return app.exit(unknown) == 0 ? lmsdp::exitClean : lmsdp::exitUsage;
-        }
-        return app.exit(error) == 0 ? lmsdp::exitClean : lmsdp::exitUsage;
+        return exitStatusFor(error, app);
     }
     if (!std::cout.flush())
     {

@@ -10,6 +10,7 @@ namespace __cxxabiv1
 {
 
 // The run-time library exports this entry without declaring it.
+// NOLINTNEXTLINE(readability-redundant-declaration): clang declares it, gcc does not
 extern "C" void __cxa_throw(void* object, std::type_info* type, void (*destructor)(void*));
 
 } // namespace __cxxabiv1

@@ -13,6 +13,8 @@ template <typename T>
 class LmHandle : public LmHandleBase
 {
 public:
+    // NOLINTBEGIN(google-explicit-constructor): a handle converts as a pointer does.
+
     ///@{
     /// An empty handle.
     LmHandle() noexcept : LmHandleBase(nullptr) {}
@@ -48,7 +50,7 @@ public:
     template <typename U>
     LmHandle& operator=(const LmHandle<U>& other) noexcept
     {
-        return *this = LmHandle(other);
+        return *this = LmHandle(other); // NOLINT(misc-unconventional-assign-operator): this is *this
     }
     ///@}
 
@@ -65,6 +67,7 @@ public:
     /// gives a null pointer.
     T* operator->() const { return dereference(); }
     operator T*() const { return dereference(); }
+    // NOLINTEND(google-explicit-constructor)
 
     /// The object without the run-time type test, for loops over handles that were only ever given a `T`.
     T* untested() const noexcept { return static_cast<T*>(object()); }

@@ -24,6 +24,7 @@ protected:
     LmHandleBase(const LmHandleBase& other) noexcept : LmHandleBase(other.m_pObject) {}
     LmHandleBase(LmHandleBase&& other) noexcept : m_pObject(other.m_pObject) { other.m_pObject = nullptr; }
 
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the new object is counted before the old one is given up
     LmHandleBase& operator=(const LmHandleBase& other) noexcept
     {
         assign(other.m_pObject);

@@ -13,7 +13,7 @@ class LMUTIL_API LmObject
 {
 public:
     /// An object with a count of 0.
-    LmObject() noexcept
+    LmObject() noexcept // NOLINT(modernize-use-equals-default): counts in debug builds
     {
 #ifdef LMUTIL_COUNT_OBJECTS
         sCountLive(1);
@@ -29,7 +29,7 @@ public:
     }
     ///@}
 
-    virtual ~LmObject()
+    virtual ~LmObject() // NOLINT(modernize-use-equals-default): counts in debug builds
     {
 #ifdef LMUTIL_COUNT_OBJECTS
         sCountLive(-1);

@@ -4,6 +4,7 @@
 
 LmObservable::~LmObservable() = default;
 
+// NOLINTBEGIN(performance-unnecessary-value-param): callers are linked against these signatures
 void LmObservable::attachObserver(LmHandle<LmObserver> hObserver)
 {
     const bool attached = std::find(m_Observers.begin(), m_Observers.end(), hObserver) != m_Observers.end();
@@ -17,6 +18,8 @@ void LmObservable::detachObserver(LmHandle<LmObserver> hObserver)
 {
     m_Observers.erase(std::remove(m_Observers.begin(), m_Observers.end(), hObserver), m_Observers.end());
 }
+
+// NOLINTEND(performance-unnecessary-value-param)
 
 unsigned int LmObservable::countObservers() const
 {

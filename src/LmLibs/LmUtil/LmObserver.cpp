@@ -4,4 +4,5 @@
 
 LmObserver::~LmObserver() = default;
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): observers override this signature
 void LmObserver::onNotification(LmHandle<LmObservable>, LmHandle<LmObject>) {}

@@ -18,6 +18,7 @@ public:
     ///@{
     /// A copy has no room to show until it makes its own.
     LmOutputStream(const LmOutputStream& other) noexcept : LmObject(other) {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
     LmOutputStream& operator=(const LmOutputStream&) noexcept { return *this; }
     ///@}
     ~LmOutputStream() override;

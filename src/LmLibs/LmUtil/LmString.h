@@ -18,6 +18,7 @@ public:
     LmString() noexcept : LmHandle(LmStringBuffer::sEmpty(), Adopt()) {}
 
     /// A copy of the text. @throws std::bad_alloc
+    // NOLINTNEXTLINE(google-explicit-constructor): a text stands wherever a string is wanted
     LmString(const char* text) : LmString(lmViewOf(text)) {}
 
     /// A copy of the bytes, NUL bytes included. @throws std::bad_alloc

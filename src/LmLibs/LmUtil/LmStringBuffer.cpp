@@ -73,7 +73,7 @@ namespace
 union Undying
 {
     constexpr Undying() : empty() {}
-    ~Undying() {}
+    ~Undying() {} // NOLINT(modernize-use-equals-default): that would be deleted
 
     LmEmptyText empty;
 };
@@ -227,7 +227,7 @@ void LmStringBuffer::growTo(std::size_t length)
     sRoom(text) = static_cast<Room>(room);
     std::memcpy(text, m_Text, m_Length);
     dropOutsideText();
-    setText(text, m_Length);
+    setText(text, m_Length); // NOLINT(clang-analyzer-cplusplus.NewDelete): what was dropped is not this block
 }
 
 LmStringBuffer* LmStringBuffer::assign(const char* text)
