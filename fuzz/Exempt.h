@@ -2,8 +2,9 @@
 
 #include "LmSdpObject.h"
 
-#include <cstring>
+#include <algorithm>
 #include <string_view>
+#include <vector>
 
 /// The lines whose written form reads differently, or not at all. Everything else that is read and written reads again
 /// and writes the same text. Each form stands here with its reason.
@@ -63,18 +64,21 @@ inline bool isMediaWithWrappedPort(LmSdpField& field)
     return pMedia != nullptr && pMedia->getNumberOfPorts() != 0 && pMedia->getPort() == 0;
 }
 
-/// The value text of several keys, or with session parameters, has several lines; numbers above 31 bits are written
-/// with a sign; and an MKI without its length is not read behind a lifetime.
+/// Numbers above 31 bits are written with a sign, and an MKI without its length is not read behind a lifetime.
+inline bool hasSignedNumber(const LmSdpCryptoAttribute& crypto)
+{
+    const std::vector<LmCryptoKey>& keys = crypto.getKeyVector();
+    return isSignedBelowZero(crypto.getTag()) || std::any_of(keys.begin(), keys.end(), [](const LmCryptoKey& key) {
+               return key.m_MkiValue != LmCryptoKey::sm_NotSet &&
+                      (isSignedBelowZero(key.m_MkiValue) || isSignedBelowZero(key.m_MkiLength));
+           });
+}
+
+/// The value text of several keys, or with session parameters, has several lines.
 inline bool isCryptoBeyondALine(const LmSdpCryptoAttribute& crypto)
 {
-    bool beyond = crypto.getKeyVector().size() != 1 || !crypto.getSecurityDescriptionVector().empty() ||
-                  isSignedBelowZero(crypto.getTag());
-    for (const LmCryptoKey& key : crypto.getKeyVector())
-    {
-        beyond = beyond || isSignedBelowZero(key.m_MkiValue) != (key.m_MkiValue == LmCryptoKey::sm_NotSet) ||
-                 (key.m_MkiValue != LmCryptoKey::sm_NotSet && isSignedBelowZero(key.m_MkiLength));
-    }
-    return beyond;
+    return crypto.getKeyVector().size() != 1 || !crypto.getSecurityDescriptionVector().empty() ||
+           hasSignedNumber(crypto);
 }
 
 inline bool isCrypto(LmSdpField& field)
@@ -90,12 +94,14 @@ inline bool isLine(LmSdpField& field)
            isConnectionWithEmptyValue(field) || isMediaWithWrappedPort(field) || isCrypto(field);
 }
 
-inline bool hasLine(LmSdpDescription& description)
+/// Whether a message or a description has such a line of its own.
+template <typename Owner>
+bool hasLine(Owner& owner)
 {
     for (const char letter : std::string_view("vtmosiuepcbrzka"))
     {
         const char token[] = {letter, '\0'};
-        for (LmHandle<LmSdpField> hField = description.getField(token); hField; hField = hField->getNext())
+        for (LmHandle<LmSdpField> hField = owner.getField(token); hField; hField = hField->getNext())
         {
             if (isLine(*hField))
             {
@@ -128,18 +134,7 @@ inline bool hasSecondVersion(LmSdpMsg& message)
 
 inline bool isMessage(LmSdpMsg& message)
 {
-    for (const char letter : std::string_view("vosiuepcbzka"))
-    {
-        const char token[] = {letter, '\0'};
-        for (LmHandle<LmSdpField> hField = message.getField(token); hField; hField = hField->getNext())
-        {
-            if (isLine(*hField))
-            {
-                return true;
-            }
-        }
-    }
-    return hasSecondVersion(message) || hasLineInChain(message.getTimeDescription()) ||
+    return hasLine(message) || hasSecondVersion(message) || hasLineInChain(message.getTimeDescription()) ||
            hasLineInChain(message.getMediaDescription());
 }
 

@@ -54,11 +54,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     std::string body(viewOf(data, size));
     LmHandle<LmMediaSession> hSession;
-    const Outcome outcome = outcomeOf([&] {
+    failureOf([&] {
         hSession = LmMediaSession::sCreateSession(body.data(), static_cast<unsigned int>(body.size()));
-        return std::string();
     });
-    if (!outcome.failure.empty() || hSession.isNull())
+    if (hSession.isNull())
     {
         return 0;
     }

@@ -11,8 +11,8 @@ void checkStable(std::string_view line)
 {
     LmByteArrayInputStream in(bytesOf(line), 0, 0);
     const LmHandle<LmSdpField> hField = LmSdpField::sConstructFrom(in);
-    const Outcome first = outcomeOf([&] { return written(*hField); });
-    if (!first.failure.empty() || Exempt::isLine(*hField))
+    const Reading first = writing(*hField);
+    if (!first.failure.thrown.empty() || Exempt::isLine(*hField))
     {
         return;
     }
@@ -28,14 +28,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t cut = text.find('\0');
     const std::string_view line = text.substr(0, cut);
     const std::string_view second = cut == std::string_view::npos ? std::string_view() : text.substr(cut + 1);
-    const Outcome outcome = readBothWays(line, [&](LmInputStream& in) {
+    const Reading outcome = readBothWays(line, [&](LmInputStream& in) {
         const LmHandle<LmSdpField> hField = LmSdpField::sConstructFrom(in);
-        std::string result = outcomeOf([&] { return written(*hField); }).result;
+        std::string result = writing(*hField).result;
         LmByteArrayInputStream more(bytesOf(second), 0, 0);
-        result += outcomeOf([&] { return hField->parse(more), std::string(); }).failure;
-        return result + outcomeOf([&] { return written(*hField); }).result;
+        result += failureOf([&] { hField->parse(more); }).words;
+        return result + writing(*hField).result;
     });
-    if (outcome.failure.empty())
+    if (outcome.failure.thrown.empty())
     {
         checkStable(line);
     }

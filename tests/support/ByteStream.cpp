@@ -1,9 +1,8 @@
 #include "support/ByteStream.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstring>
+#include <stdexcept>
 
 ByteStream::ByteStream(const LmHandle<LmByteArray>& hBytes) : m_Bytes(hBytes) {}
 
@@ -45,6 +44,9 @@ void ByteStream::mark(unsigned int readLimit)
 
 void ByteStream::reset()
 {
-    EXPECT_LE(m_Next - m_Mark, m_Limit) << "more was read than mark() announced";
+    if (m_Next - m_Mark > m_Limit)
+    {
+        throw std::logic_error("more was read than mark() announced");
+    }
     m_Next = m_Mark;
 }

@@ -3,8 +3,8 @@
 #include "LmLibs/LmUtil/LmByteArray.h"
 #include "LmLibs/LmUtil/LmInputStream.h"
 
-/// A stream as a caller would write one: byte by byte, with no window. It fails the test where a reader goes back
-/// further than the limit it has announced.
+/// A stream as a caller would write one: byte by byte, with no window. It raises std::logic_error where a
+/// reader goes back further than the limit it has announced.
 class ByteStream : public LmInputStream
 {
 public:

@@ -83,6 +83,38 @@ void chainDescriptions(std::size_t count)
     }
 }
 
+void addLines(std::size_t count)
+{
+    LmSdpMsg message(s_Head.c_str());
+    for (; count != 0; --count)
+    {
+        message.addField(new LmSdpUnusedField("a", "x"));
+    }
+}
+
+/// The lines in front go with the message, those behind with the last handle.
+void holdAPartOfAChain(std::size_t count)
+{
+    LmHandle<LmSdpField> hMiddle;
+    {
+        LmSdpMsg message((s_Head + repeated("a=x\r\n", count)).c_str());
+        hMiddle = message.getField("a");
+        for (std::size_t step = 0; step < count / 2; ++step)
+        {
+            hMiddle = hMiddle->getNext();
+        }
+    }
+    EXPECT_FALSE(hMiddle->getNext().isNull());
+}
+
+void takeWord(std::size_t count)
+{
+    LmByteArrayInputStream in(LmByteArray::sCreate(std::string(count, 'w').c_str()), 0, 0);
+    LmString word;
+    in >> word;
+    EXPECT_EQ(word.length(), count);
+}
+
 void listFormats(std::size_t count)
 {
     LmSdpMediaField media("audio 1 RTP/AVP 0");
@@ -109,6 +141,7 @@ const Limit s_Limits[] = {
     {"MediaSections", 4000,
      [](std::size_t count) { readAndWrite(s_Head + repeated("m=audio 1 RTP/AVP 0\r\na=x\r\n", count)); }},
     {"TimeSections", 4000, [](std::size_t count) { readAndWrite(s_Head + repeated("t=0 0\r\n", count)); }},
+    {"Repeats", 100000, [](std::size_t count) { readAndWrite(s_Head + repeated("r=7d 1h 0\r\n", count)); }},
     {"BlankLines", 1000000, [](std::size_t count) { LmSdpMsg((s_Head + repeated("\r\n", count)).c_str()); }},
     {"OneLongLine", 5000000, [](std::size_t count) { readAndWrite(s_Head + "a=" + std::string(count, 'x') + "\r\n"); }},
     {"OneLongToken", 1000000,
@@ -122,6 +155,9 @@ const Limit s_Limits[] = {
     {"CryptoKeys", 20000,
      [](std::size_t count) { LmSdpCryptoAttribute(("1 X inline:K" + repeated(";inline:K", count)).c_str()); }},
     {"ChainedDescriptions", 10000, &chainDescriptions},
+    {"AddedLines", 32000, &addLines},
+    {"PartOfAChain", 100000, &holdAPartOfAChain},
+    {"OneWord", 1000000, &takeWord},
     {"Formats", 100000, &listFormats},
     {"CodecNames", 20000, &nameCodecs}};
 

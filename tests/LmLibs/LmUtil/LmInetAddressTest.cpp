@@ -7,52 +7,37 @@
 namespace
 {
 
-struct AddressRow
+TEST(InetAddress, IsTakenFromItsDottedForm)
 {
-    const char* name;
-    const char* text;
-    bool taken;
-    unsigned int address;
-};
-
-class AddressText : public testing::TestWithParam<AddressRow>
-{
-};
-
-TEST_P(AddressText, IsTakenFromText)
-{
-    const AddressRow& row = GetParam();
-    LmInetAddress address("9.9.9.9", nullptr, 250);
-    EXPECT_EQ(address.initFromAddress(row.text), row.taken);
-    EXPECT_EQ(address.getAddress(), row.taken ? row.address : 0x09090909u) << "a text not taken changes nothing";
-    EXPECT_EQ(LmInetAddress(row.text, nullptr, 250).getAddress(), row.address);
+    const std::pair<const char*, unsigned int> rows[] = {
+        {"10.47.16.5", 0x0A2F1005},
+        {"0.0.0.0", 0},
+        {"255.255.255.255", 0xFFFFFFFF},
+        {" \t224.2.17.12\r\n", 0xE002110C},
+        {"                              1.2.3.4                              ", 0x01020304},
+    };
+    for (const auto& [text, number] : rows)
+    {
+        LmInetAddress address("9.9.9.9", nullptr, 250);
+        EXPECT_TRUE(address.initFromAddress(text)) << text;
+        EXPECT_EQ(address.getAddress(), number);
+        EXPECT_EQ(LmInetAddress(text, nullptr, 250).getAddress(), number);
+    }
 }
 
-const AddressRow s_Addresses[] = {
-    {"Dotted", "10.47.16.5", true, 0x0A2F1005},
-    {"Lowest", "0.0.0.0", true, 0},
-    {"Highest", "255.255.255.255", true, 0xFFFFFFFF},
-    {"WhiteSpaceAtBothEnds", " \t224.2.17.12\r\n", true, 0xE002110C},
-    {"MuchWhiteSpace", "                              1.2.3.4                              ", true, 0x01020304},
-    {"NullPointer", nullptr, false, 0},
-    {"Empty", "", false, 0},
-    {"Blank", " ", false, 0},
-    {"LeadingZero", "010.1.2.3", false, 0},
-    {"NumberTooLarge", "256.1.2.3", false, 0},
-    {"ThreeNumbers", "10.1.2", false, 0},
-    {"FiveNumbers", "10.1.2.3.4", false, 0},
-    {"OneNumber", "167772161", false, 0},
-    {"Hexadecimal", "0x0A.1.2.3", false, 0},
-    {"TimeToLive", "224.2.17.12/127", false, 0},
-    {"TextBehind", "10.1.2.3 x", false, 0},
-    {"BlankInside", "10. 1.2.3", false, 0},
-    {"Sign", "-1.1.2.3", false, 0},
-    {"HostName", "localhost", false, 0},
-    {"SixthVersion", "::1", false, 0},
-    {"SixthVersionWithFourth", "::ffff:10.1.2.3", false, 0},
-    {"LongText", "10.1.2.3.10.1.2.3.10.1.2.3.10.1.2.3.10.1.2.3.10.1.2.3", false, 0},
-};
-INSTANTIATE_TEST_SUITE_P(, AddressText, testing::ValuesIn(s_Addresses), RowName());
+TEST(InetAddress, IsUnchangedByAnyOtherText)
+{
+    for (const char* text :
+         {static_cast<const char*>(nullptr), "", " ", "010.1.2.3", "256.1.2.3", "10.1.2", "10.1.2.3.4", "167772161",
+          "0x0A.1.2.3", "224.2.17.12/127", "10.1.2.3 x", "10. 1.2.3", "-1.1.2.3", "localhost", "::1", "::ffff:10.1.2.3",
+          "10.1.2.3.10.1.2.3.10.1.2.3.10.1.2.3.10.1.2.3.10.1.2.3"})
+    {
+        LmInetAddress address("9.9.9.9", nullptr, 250);
+        EXPECT_FALSE(address.initFromAddress(text)) << testing::PrintToString(text);
+        EXPECT_EQ(address.getAddress(), 0x09090909u);
+        EXPECT_EQ(LmInetAddress(text, nullptr, 250).getAddress(), 0u);
+    }
+}
 
 TEST(InetAddress, WritesItsDottedForm)
 {

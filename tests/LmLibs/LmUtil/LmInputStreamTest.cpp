@@ -7,7 +7,6 @@
 #include "support/Matchers.h"
 
 #include <cstring>
-#include <limits>
 #include <sstream>
 
 namespace
@@ -23,125 +22,79 @@ std::string rest(LmInputStream& in)
     return text;
 }
 
-struct StreamRow
+/// What the steps read: r a byte, m marks for four bytes, b goes back to the mark, s passes over a byte.
+Reading readInSteps(std::string_view text, std::string_view steps)
 {
-    const char* name;
-    const char* text;
-    std::string (*read)(LmInputStream&);
-    const char* result;
-    unsigned int left;
-};
-
-class InputStream : public testing::TestWithParam<StreamRow>
-{
-};
-
-TEST_P(InputStream, Reads)
-{
-    const StreamRow& row = GetParam();
-    EXPECT_EQ(readEachWay(row.text, row.read), (Reading{row.result, {}, row.left}));
+    return readEachWay(text, [steps](LmInputStream& in) {
+        std::string seen;
+        for (const char step : steps)
+        {
+            switch (step)
+            {
+            case 'r':
+                seen += std::to_string(in.read()) + " ";
+                break;
+            case 'm':
+                in.mark(4);
+                break;
+            case 'b':
+                in.reset();
+                break;
+            default:
+                seen += "+" + std::to_string(in.skip(1)) + " ";
+            }
+        }
+        return seen;
+    });
 }
 
-const StreamRow s_StreamRows[] = {
-    {"BytesAre0To255", "\xFF\x80", [](LmInputStream& in) { return std::to_string(in.read() + in.read()); }, "383", 0},
-    {"EndOfInputStaysTheEnd", "",
-     [](LmInputStream& in) { return std::to_string(in.read()) + std::to_string(in.read()); }, "-1-1", 0},
-    {"ResetGoesBackToTheMark", "abcd",
-     [](LmInputStream& in) {
-         in.read();
-         in.mark(2);
-         in.read();
-         in.read();
-         in.reset();
-         return std::string(1, static_cast<char>(in.read()));
-     },
-     "b", 2},
-    {"ResetBehindTheEndOfInput", "a",
-     [](LmInputStream& in) {
-         in.mark(1);
-         in.read();
-         in.read();
-         in.reset();
-         return rest(in);
-     },
-     "a", 0},
-    {"ResetTwiceGoesToTheSamePlace", "abc",
-     [](LmInputStream& in) {
-         in.skip(1);
-         in.mark(1);
-         in.read();
-         in.reset();
-         in.read();
-         in.reset();
-         return rest(in);
-     },
-     "bc", 0},
-    {"LaterMarkCounts", "abcd",
-     [](LmInputStream& in) {
-         in.mark(4);
-         in.skip(2);
-         in.mark(4);
-         in.skip(1);
-         in.reset();
-         return rest(in);
-     },
-     "cd", 0},
-    {"SkipGivesHowManyItPassed", "abc",
-     [](LmInputStream& in) {
-         const std::string first = std::to_string(in.skip(2));
-         return first + std::to_string(in.skip(2));
-     },
-     "21", 0},
-    {"SkipOfAHugeCount", "abc",
-     [](LmInputStream& in) { return std::to_string(in.skip(std::numeric_limits<unsigned int>::max())); }, "3", 0},
-    {"ReadIntoABufferBehindTheOffset", "abc",
-     [](LmInputStream& in) {
-         char buffer[] = "......";
-         const unsigned int count = in.read(buffer, 2, 2);
-         return std::to_string(count) + buffer;
-     },
-     "2..ab..", 1},
-    {"ReadIntoABufferCutAtTheEnd", "abc",
-     [](LmInputStream& in) {
-         char buffer[] = "......";
-         const unsigned int count = in.read(buffer, 0, 6);
-         return std::to_string(count) + buffer;
-     },
-     "3abc...", 0},
-    {"MarksAreSupported", "", [](LmInputStream& in) { return std::string(in.markSupported() ? "yes" : "no"); }, "yes",
-     0},
-    {"LineAsAView", "one\r\ntwo", [](LmInputStream& in) { return std::string(LmLine(in).view()); }, "one", 3},
-};
-INSTANTIATE_TEST_SUITE_P(, InputStream, testing::ValuesIn(s_StreamRows), RowName());
-
-struct PartRow
+TEST(InputStream, MarksAndGoesBack)
 {
-    const char* name;
-    unsigned int offset;
-    unsigned int length;
-    const char* result;
-};
-
-class ByteArrayInputStreamPart : public testing::TestWithParam<PartRow>
-{
-};
-
-TEST_P(ByteArrayInputStreamPart, ShowsThatPart)
-{
-    const PartRow& row = GetParam();
-    LmByteArrayInputStream in(LmByteArray::sCreate("abcdef"), row.offset, row.length);
-    EXPECT_EQ(in.available(), std::strlen(row.result));
-    EXPECT_EQ(rest(in), row.result);
-    in.reset();
-    EXPECT_EQ(rest(in), row.result) << "a reset without a mark goes to the start";
+    EXPECT_EQ(readInSteps("\xFF\x80", "rr"), (Reading{"255 128 ", {}, 0}));
+    EXPECT_EQ(readInSteps("", "rrs"), (Reading{"-1 -1 +0 ", {}, 0}));
+    EXPECT_EQ(readInSteps("1234", "rmrrbr"), (Reading{"49 50 51 50 ", {}, 2}));
+    EXPECT_EQ(readInSteps("1", "mrrbrr"), (Reading{"49 -1 49 -1 ", {}, 0}));
+    EXPECT_EQ(readInSteps("123", "smrbrbrr"), (Reading{"+1 50 50 50 51 ", {}, 0})) << "twice to the same place";
+    EXPECT_EQ(readInSteps("1234", "mssmsbrr"), (Reading{"+1 +1 +1 51 52 ", {}, 0})) << "the later mark counts";
 }
 
-INSTANTIATE_TEST_SUITE_P(, ByteArrayInputStreamPart,
-                         testing::Values(PartRow{"Whole", 0, 0, "abcdef"}, PartRow{"FromAnOffset", 2, 0, "cdef"},
-                                         PartRow{"OffsetAndLength", 2, 3, "cde"}, PartRow{"LengthIsCut", 4, 9, "ef"},
-                                         PartRow{"OffsetAtTheEnd", 6, 0, ""}, PartRow{"OffsetBehindTheEnd", 99, 3, ""},
-                                         PartRow{"LargestNumbers", 0xFFFFFFFF, 0xFFFFFFFF, ""}),
-                         RowName());
+TEST(InputStream, PassesOverManyAndFillsABuffer)
+{
+    const Reading reading = readEachWay("0123456789", [](LmInputStream& in) {
+        char buffer[] = "......";
+        std::string seen = std::to_string(in.skip(2)) + ", ";
+        seen += std::to_string(in.read(buffer, 2, 2)) + " " + buffer + ", ";
+        seen += std::to_string(in.skip(4)) + ", ";
+        return seen + std::to_string(in.read(buffer, 0, 6)) + " " + buffer;
+    });
+    EXPECT_EQ(reading, (Reading{"2, 2 ..23.., 4, 2 8923..", {}, 0}));
+    EXPECT_EQ(readEachWay("abc", [](LmInputStream& in) { return std::to_string(in.skip(0xFFFFFFFF)); }).result, "3");
+}
+
+TEST(InputStream, SupportsMarksAndLines)
+{
+    EXPECT_EQ(readEachWay("", [](LmInputStream& in) { return in.markSupported() ? "yes" : "no"; }).result, "yes");
+    const Reading line = readEachWay("one\r\ntwo", [](LmInputStream& in) { return std::string(LmLine(in).view()); });
+    EXPECT_EQ(line, (Reading{"one", {}, 3}));
+}
+
+TEST(ByteArrayInputStream, ShowsThatPart)
+{
+    const auto expectPart = [](unsigned int offset, unsigned int length, const char* part) {
+        LmByteArrayInputStream in(LmByteArray::sCreate("abcdef"), offset, length);
+        EXPECT_EQ(in.available(), std::strlen(part));
+        EXPECT_EQ(rest(in), part);
+        in.reset();
+        EXPECT_EQ(rest(in), part) << "a reset without a mark goes to the start";
+    };
+    expectPart(0, 0, "abcdef");
+    expectPart(2, 0, "cdef");
+    expectPart(2, 3, "cde");
+    expectPart(4, 9, "ef");
+    expectPart(6, 0, "");
+    expectPart(99, 3, "");
+    expectPart(0xFFFFFFFF, 0xFFFFFFFF, "");
+}
 
 TEST(ByteArrayInputStream, KeepsItsArrayAlive)
 {

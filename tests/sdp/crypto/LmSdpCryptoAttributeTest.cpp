@@ -1,6 +1,5 @@
 #include "sdp/crypto/LmSdpCryptoAttribute.h"
 
-#include "core/MemAccount.h"
 #include "sdp/fields/LineTable.h"
 #include "sdp/media/LmSdpAttributeField.h"
 #include "support/LogCapture.h"
@@ -12,7 +11,6 @@ namespace
 
 using Attribute = LmSdpCryptoAttribute;
 using Parameter = LmSecurityDescription;
-using Quorvex::MemAccount;
 using Suite = Quorvex::Srtp::CryptoType;
 using testing::Each;
 using testing::ElementsAre;
@@ -263,33 +261,6 @@ TEST(SecurityDescription, TypeAndNameFollowFromEachOther)
     }
     EXPECT_EQ(Parameter().m_Type, Parameter::NOT_SET);
     EXPECT_EQ(Parameter(nullptr, nullptr).m_Type, Parameter::UNKNOWN);
-}
-
-/// What the account of `Class` counts while one object, and while an array of three, is alive.
-template <typename Class>
-void expectCountedAs(const char* account, Class* (*make)())
-{
-    EXPECT_STREQ(Class::getMemAccountName(), account);
-    const MemAccount::Usage atFirst = MemAccount::usage(account);
-    Class* const pObject = make();
-    EXPECT_EQ(MemAccount::usage(account).liveObjects, atFirst.liveObjects + 1);
-    EXPECT_EQ(MemAccount::usage(account).liveBytes, atFirst.liveBytes + sizeof(Class));
-    delete pObject;
-    EXPECT_EQ(MemAccount::usage(account).liveBytes, atFirst.liveBytes);
-    delete[] new Class[3];
-    EXPECT_EQ(MemAccount::usage(account).totalAllocations, atFirst.totalAllocations + 2);
-    EXPECT_EQ(MemAccount::usage(account).liveBytes, atFirst.liveBytes);
-    alignas(Class) unsigned char place[sizeof(Class)];
-    (new (place) Class)->~Class();
-    EXPECT_EQ(MemAccount::usage(account).totalAllocations, atFirst.totalAllocations + 2);
-}
-
-TEST(CryptoMemory, IsCountedInTheAccountsOfItsClasses)
-{
-    expectCountedAs<LmSdpAttribute>("LmSdpAttribute", [] { return new LmSdpAttribute; });
-    expectCountedAs<LmCryptoKey>("LmCryptoKey", [] { return new LmCryptoKey; });
-    expectCountedAs<Parameter>("LmSecurityDescription", [] { return new Parameter; });
-    expectCountedAs<Attribute>("LmSdpCryptoAttribute", [] { return static_cast<Attribute*>(Attribute().clone()); });
 }
 
 } // namespace

@@ -8,7 +8,6 @@
 #include <initializer_list>
 #include <sstream>
 #include <string>
-#include <variant>
 #include <vector>
 
 /// Tables of what a class with `parse` and `serialize` reads, keeps and writes.
@@ -49,36 +48,29 @@ inline Outcome refused(const Failure& failure, const std::string& state, const s
     return {failure, state, writes};
 }
 
-/// Each value in brackets; a null pointer shows as such.
-inline std::string values(std::initializer_list<std::variant<const char*, unsigned int, LmString>> all)
+/// A member as the tables show it; a null pointer shows as such.
+struct Value
 {
-    std::ostringstream text;
-    for (const auto& value : all)
+    Value(const char* value) : text(value == nullptr ? "(null)" : value) {}
+    Value(const LmString& value) : text(value.view()) {}
+    Value(unsigned int value) : text(std::to_string(value)) {}
+
+    std::string text;
+};
+
+/// Each value in brackets.
+inline std::string values(std::initializer_list<Value> all)
+{
+    std::string text;
+    for (const Value& value : all)
     {
-        const auto print = [&text](const auto& what) {
-            if constexpr (std::is_same_v<std::decay_t<decltype(what)>, const char*>)
-            {
-                text << (what == nullptr ? "(null)" : what);
-            }
-            else if constexpr (std::is_same_v<std::decay_t<decltype(what)>, LmString>)
-            {
-                text << what.view();
-            }
-            else
-            {
-                text << what;
-            }
-        };
-        text << "[";
-        std::visit(print, value);
-        text << "]";
+        text += "[" + value.text + "]";
     }
-    return text.str();
+    return text;
 }
 
 /// The same with an asterisk when the changed flag is set.
-inline std::string stateOf(LmSdpField& field,
-                           std::initializer_list<std::variant<const char*, unsigned int, LmString>> all)
+inline std::string stateOf(LmSdpField& field, std::initializer_list<Value> all)
 {
     return values(all) + (field.getChangedFlag() ? "*" : "");
 }

@@ -1,8 +1,6 @@
 #include "sdp/fields/LmSdpTimeField.h"
 
 #include "sdp/fields/LineTable.h"
-#include "sdp/fields/LmSdpRepeatField.h"
-#include "sdp/frame/LmSdpTimeDescription.h"
 
 namespace
 {
@@ -54,24 +52,5 @@ const Table<Field> s_Table(
      {"SettersTakeAnything", [](auto& h) { h->setStartTime("x"), h->setStopTime("y z"); },
       gives("[x][y z]*", "t=x y z\r\n")},
      {"NoStopTime", [](auto& h) { h->setStopTime(""); }, gives("[1][]*", s_Incomplete)}});
-
-TEST(TimeDescription, HoldsATimeAndItsRepeats)
-{
-    const LmHandle<Field> hTime = before();
-    LmSdpTimeDescription alone(hTime, nullptr);
-    EXPECT_EQ(alone.getTimeField(), hTime);
-    EXPECT_TRUE(alone.getRepeatField().isNull());
-    EXPECT_THAT(alone, SerializesTo("t=1 2\r\n"));
-
-    const LmHandle<LmSdpRepeatField> hRepeat = new LmSdpRepeatField("7d 1h 0");
-    LmSdpTimeDescription both(before(), hRepeat);
-    both.addField(new LmSdpRepeatField("8d 2h 0"));
-    EXPECT_EQ(both.getRepeatField(), hRepeat);
-    EXPECT_THAT(both, SerializesTo("t=1 2\r\nr=7d 1h 0\r\nr=8d 2h 0\r\n"));
-
-    LmSdpTimeDescription empty(nullptr, nullptr);
-    EXPECT_TRUE(empty.getTimeField().isNull());
-    EXPECT_THAT(empty, SerializesTo(""));
-}
 
 } // namespace

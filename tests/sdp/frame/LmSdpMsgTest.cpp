@@ -8,8 +8,6 @@
 #include "support/Matchers.h"
 
 #include <stdexcept>
-#include <thread>
-#include <vector>
 
 namespace
 {
@@ -26,44 +24,34 @@ void parse(LmSdpMsg& message, const char* text)
     message.parse(in);
 }
 
-struct RefusedRow
+TEST(Message, KeepsItsTreeWhenABodyIsRefused)
 {
-    const char* name;
-    const char* body;
-    Failure failure;
-    unsigned int left;
-};
-
-class RefusedBody : public testing::TestWithParam<RefusedRow>
-{
-};
-
-TEST_P(RefusedBody, LeavesTheFormerTree)
-{
-    const RefusedRow& row = GetParam();
-    EXPECT_EQ(readBody(row.body), (Reading{"", row.failure, row.left}));
-    LmSdpMsg message(s_First);
-    EXPECT_EQ(failureOf([&] { parse(message, row.body); }), row.failure);
-    EXPECT_THAT(message, SerializesTo(s_First));
-    EXPECT_EQ(failureOf([&] { LmSdpMsg other(row.body); }), row.failure);
+    struct
+    {
+        const char* body;
+        Failure failure;
+        unsigned int left;
+    } const rows[] = {
+        {"", parseError(s_NoVersion), 0},
+        {" \r\n", parseError(s_NoVersion), 0},
+        {"o=- 1 1 IN IP4 h\r\n", parseError(s_NoVersion), 18},
+        {"V=0", parseError(s_NoVersion), 3},
+        {"\xFFv=0", parseError(s_NoVersion), 4},
+        {"version=0\r\n", exception("Invalid format generic SDP field in LmSdpField::sConstructFrom()"), 4},
+        {"vx=0\r\n", exception(s_Refused), 0},
+        {"v=0\r\nx=1\r\ns=x", exception(s_Refused), 3},
+        {"v=0\r\nt=0 0\r\nm=audio 1 RTP/AVP 0\r\na=\r\nm=",
+         exception("LmSdpAttributeField::parse Incomplete Attribute Field"), 4},
+    };
+    for (const auto& row : rows)
+    {
+        EXPECT_EQ(readBody(row.body), (Reading{"", row.failure, row.left}));
+        LmSdpMsg message(s_First);
+        EXPECT_EQ(failureOf([&] { parse(message, row.body); }), row.failure);
+        EXPECT_THAT(message, SerializesTo(s_First));
+        EXPECT_EQ(failureOf([&] { LmSdpMsg other(row.body); }), row.failure);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(, RefusedBody,
-                         testing::Values(RefusedRow{"Empty", "", parseError(s_NoVersion), 0},
-                                         RefusedRow{"OnlyWhiteSpace", " \r\n", parseError(s_NoVersion), 0},
-                                         RefusedRow{"OtherLetter", "o=- 1 1 IN IP4 h\r\n", parseError(s_NoVersion), 18},
-                                         RefusedRow{"CapitalLetter", "V=0", parseError(s_NoVersion), 3},
-                                         RefusedRow{"HighByte", "\xFFv=0", parseError(s_NoVersion), 4},
-                                         RefusedRow{"LongToken", "version=0\r\n",
-                                                    exception("Invalid format generic SDP field in "
-                                                              "LmSdpField::sConstructFrom()"),
-                                                    4},
-                                         RefusedRow{"TokenOfSeveralLetters", "vx=0\r\n", exception(s_Refused), 0},
-                                         RefusedRow{"ForeignLine", "v=0\r\nx=1\r\ns=x", exception(s_Refused), 3},
-                                         RefusedRow{"LineDeepInside", "v=0\r\nt=0 0\r\nm=audio 1 RTP/AVP 0\r\na=\r\nm=",
-                                                    exception("LmSdpAttributeField::parse Incomplete Attribute Field"),
-                                                    4}),
-                         RowName());
 
 TEST(Message, IsEmptyWithoutAText)
 {
@@ -118,38 +106,25 @@ TEST(Message, IsWrittenAnewEachTime)
     EXPECT_THAT(message, SerializesTo("v=0\r\na=two\r\n"));
 }
 
-struct AddRow
+TEST(Message, TakesSessionLinesOnly)
 {
-    const char* name;
-    const char* token;
-    const char* written;
-    Failure failure;
-};
-
-class MessageAdd : public testing::TestWithParam<AddRow>
-{
-};
-
-TEST_P(MessageAdd, TakesSessionLinesOnly)
-{
-    const AddRow& row = GetParam();
+    const std::pair<const char*, const char*> taken[] = {{"i", "v=0\r\ns=second\r\ni=x\r\n"},
+                                                         {"s", "v=0\r\ns=second\r\ns=x\r\n"},
+                                                         {"os", "v=0\r\nos=x\r\ns=second\r\n"}};
+    for (const auto& [token, text] : taken)
+    {
+        LmSdpMsg message(s_Second);
+        message.addField(new LmSdpUnusedField(token, "x"));
+        EXPECT_THAT(message, SerializesTo(std::string(text)));
+    }
     LmSdpMsg message(s_Second);
-    const LmHandle<LmSdpField> hField = new LmSdpUnusedField(row.token, "x");
-    EXPECT_EQ(failureOf([&] { message.addField(hField); }), row.failure);
-    EXPECT_THAT(message, SerializesTo(std::string(row.written)));
+    for (const char* token : {"m", "t", "x", ""})
+    {
+        EXPECT_THAT([&] { message.addField(new LmSdpUnusedField(token, "x")); },
+                    ThrowsParseError("Attempting to insert invalid field at Session-level"));
+        EXPECT_THAT(message, SerializesTo(s_Second));
+    }
 }
-
-const Failure s_NotForTheSession = parseError("Attempting to insert invalid field at Session-level");
-
-INSTANTIATE_TEST_SUITE_P(, MessageAdd,
-                         testing::Values(AddRow{"Information", "i", "v=0\r\ns=second\r\ni=x\r\n", {}},
-                                         AddRow{"SecondSessionName", "s", "v=0\r\ns=second\r\ns=x\r\n", {}},
-                                         AddRow{"PartOfTheLetters", "os", "v=0\r\nos=x\r\ns=second\r\n", {}},
-                                         AddRow{"Media", "m", s_Second, s_NotForTheSession},
-                                         AddRow{"Time", "t", s_Second, s_NotForTheSession},
-                                         AddRow{"Unknown", "x", s_Second, s_NotForTheSession},
-                                         AddRow{"Empty", "", s_Second, s_NotForTheSession}),
-                         RowName());
 
 TEST(Message, RefusesALineThatIsThere)
 {
@@ -207,50 +182,6 @@ TEST(Message, FlushesTheStreamOnceAtTheEnd)
     FlushedStream out;
     message.serialize(out);
     EXPECT_EQ(out.text, std::string(s_Second) + "<flush>");
-}
-
-TEST(Message, TextsCopiedBetweenTwoMayBeChangedByTwoThreads)
-{
-    for (int round = 0; round < 50; ++round)
-    {
-        LmSdpMsg one(s_First);
-        LmSdpMsg other(s_Second);
-        for (int field = 0; field < 20; ++field)
-        {
-            const LmHandle<LmSdpUnusedField> hField = new LmSdpUnusedField("a", "shared text");
-            one.addField(hField);
-            other.addField(new LmSdpUnusedField("a", hField->getField()));
-        }
-        const auto work = [](LmSdpMsg& message) {
-            for (LmHandle<LmSdpField> hField = message.getField("a"); hField; hField = hField->getNext())
-            {
-                LmHandle<LmSdpUnusedField>(hField)->setField("changed");
-            }
-            written(message);
-        };
-        std::thread first([&] { work(one); });
-        std::thread second([&] { work(other); });
-        first.join();
-        second.join();
-    }
-}
-
-TEST(Message, ManyThreadsReadAndWriteTheirOwn)
-{
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < 4; ++thread)
-    {
-        threads.emplace_back([] {
-            for (int round = 0; round < 300; ++round)
-            {
-                EXPECT_EQ(written(LmSdpMsg(s_First)), s_First);
-            }
-        });
-    }
-    for (std::thread& thread : threads)
-    {
-        thread.join();
-    }
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 #include "sdp/media/LmSdpMediaField.h"
 
 #include "sdp/fields/LineTable.h"
-#include "sdp/frame/LmSdpMediaDescription.h"
-#include "sdp/media/LmSdpAttributeField.h"
 
 namespace
 {
@@ -88,21 +86,5 @@ const Table<Field> s_Table(
       gives("[x y][5][1][z][7]*", "m=x y 5/1 z 7\r\n")},
      {"NoTransportToWrite", [](auto& h) { h = new Field("a 1 b 8"), h->setTransport(nullptr); },
       gives("[a][1][0][][8]*", s_Incomplete)}});
-
-TEST(MediaDescription, SharesTheFieldsItWasGiven)
-{
-    const LmHandle<Field> hMedia = new Field("audio 1 RTP/AVP 0 8");
-    LmSdpMediaDescription description(hMedia, new LmSdpAttributeField("sendrecv"));
-    hMedia->setPort(2U);
-    EXPECT_EQ(description.getMediaField(), hMedia);
-    EXPECT_TRUE(description.isMediaFormatPresent(8));
-    EXPECT_FALSE(description.isMediaFormatPresent(9));
-    EXPECT_THAT(description, SerializesTo("m=audio 2 RTP/AVP 0 8\r\na=sendrecv\r\n"));
-    EXPECT_THAT(LmSdpMediaDescription(hMedia, nullptr), SerializesTo("m=audio 2 RTP/AVP 0 8\r\n"));
-
-    LmSdpMediaDescription noMedia(nullptr, new LmSdpAttributeField("sendrecv"));
-    EXPECT_TRUE(noMedia.getMediaField().isNull());
-    EXPECT_FALSE(noMedia.isMediaFormatPresent(0));
-}
 
 } // namespace
