@@ -186,6 +186,8 @@ TEST(FileLogger, MakesALoggerOfItsCategory)
 {
     EXPECT_NE(dynamic_cast<Quorvex::AceCleanupLogger*>(s_FileLogger.get()), nullptr);
     EXPECT_STREQ(s_FileLogger.get()->getCategory(), "test.parent.child");
+    // It ends with the process.
+    EXPECT_STREQ((new Quorvex::AceCleanupLogger("test.own"))->getCategory(), "test.own");
 }
 
 } // namespace

@@ -91,6 +91,11 @@ TEST(Exception, RaisedWhileAnotherOneIsHandled)
 
 TEST(Exception, ThatIsNeverThrownIsDeletedLikeAnyOther)
 {
+    alignas(LmException) unsigned char place[sizeof(LmException)];
+    LmException* const pPlaced = new (place) LmException("words");
+    EXPECT_STREQ(pPlaced->getMessage(), "words");
+    pPlaced->~LmException();
+
     const LmHandle<LmException> hFailure = new HostError(7);
     EXPECT_STREQ(hFailure->getMessage(), "host error");
 }

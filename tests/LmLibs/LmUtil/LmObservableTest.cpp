@@ -39,7 +39,8 @@ TEST(Observable, TellsEachObserverOnce)
     hSubject->attachObserver(hOne);
     hSubject->attachObserver(hTwo);
     hSubject->attachObserver(nullptr);
-    EXPECT_EQ(hSubject->countObservers(), 2u);
+    hSubject->attachObserver(new LmObserver);
+    EXPECT_EQ(hSubject->countObservers(), 3u);
     hSubject->notifyObservers(hArgument);
     EXPECT_EQ(hOne->heard, 1);
     EXPECT_EQ(hTwo->heard, 1);

@@ -22,6 +22,7 @@ TEST(StringOutputStream, CollectsUntilCleared)
 {
     LmStringOutputStream out;
     writeOneOfEach(out);
+    out.flush();
     EXPECT_EQ(out.getString().view(), s_OneOfEach);
     out.clear();
     EXPECT_EQ(out.getString().view(), "");

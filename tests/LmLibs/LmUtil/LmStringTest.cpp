@@ -236,6 +236,7 @@ TEST(StringBuffer, GivesBackItselfUnlessItIsShared)
 TEST(StringBuffer, ReleaseGivesTheCount)
 {
     LmStringBuffer* const pBuffer = LmStringBuffer::sCreate("abc", 0, 0);
+    EXPECT_EQ(pBuffer->Release(false), 0u) << "nobody owns it";
     EXPECT_EQ(pBuffer->AddRef(), 1u);
     EXPECT_EQ(pBuffer->AddRef(), 2u);
     EXPECT_EQ(pBuffer->Release(), 1u);
@@ -243,6 +244,7 @@ TEST(StringBuffer, ReleaseGivesTheCount)
     EXPECT_STREQ(pBuffer->getText(), "abc") << "still alive";
     pBuffer->AddRef();
     EXPECT_EQ(pBuffer->Release(true), 0u);
+    delete LmStringBuffer::sCreate("abc", 0, 0);
 }
 
 } // namespace

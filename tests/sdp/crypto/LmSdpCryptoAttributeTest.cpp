@@ -245,6 +245,8 @@ TEST(CryptoKey, LifetimeAsPowerOfTwo)
     LmCryptoKey copy = key;
     copy.m_Key = "changed";
     EXPECT_TRUE(key.m_Key.isBlank());
+    key = copy;
+    EXPECT_STREQ(key.m_Key.c_str(), "changed");
 }
 
 TEST(SecurityDescription, TypeAndNameFollowFromEachOther)

@@ -57,6 +57,7 @@ const Table<Field> s_Table(
      {"MostElements", elements(39) + "\n", reads(elements(39))},
      {"EmptyLine", "\r\nk=", refused(s_NoLine, "[1 2]", "z=1 2\r\n"), 4},
      {"TextOf511Bytes", s_508 + "8 0\nk=", s_Refused, 3},
+     {"OffsetBeyondTheRoom", s_508 + " 12345\n", s_Refused, 1},
      {"TooManyDigits", s_600 + " 0\n", s_Refused, 91},
      {"TooManyElements", elements(40) + "\n", s_Refused, 8},
      {"UnitAtTheEnd", "2882844526 -1h\r\nk=", s_Refused, 3},

@@ -1,5 +1,6 @@
 #include "sdp/frame/LmSdpDescription.h"
 
+#include "LmLibs/LmUtil/LmStringOutputStream.h"
 #include "sdp/fields/LmSdpRepeatField.h"
 #include "sdp/fields/LmSdpTimeField.h"
 #include "sdp/frame/LmSdpMediaDescription.h"
@@ -220,6 +221,9 @@ TEST(TimeDescription, IsMadeOfReadyLines)
     EXPECT_TRUE(hBoth->getTimeField() == hTime);
     EXPECT_TRUE(hBoth->getRepeatField() == hRepeat);
     EXPECT_THAT(hBoth, SerializesTo("t=0 0\r\nr=7d 1h 0\r\n"));
+    LmStringOutputStream out;
+    hBoth->serialize(out);
+    EXPECT_EQ(out.getString().view(), "t=0 0\r\nr=7d 1h 0\r\n") << "the form that is not const";
     const LmHandle<LmSdpTimeDescription> hNone = new LmSdpTimeDescription(nullptr, nullptr);
     EXPECT_TRUE(hNone->getTimeField().isNull());
     EXPECT_THAT(hNone, SerializesTo(""));

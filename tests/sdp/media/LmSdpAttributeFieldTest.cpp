@@ -87,7 +87,7 @@ const Table<Field> s_Table(
 
 TEST(Attribute, ReadsOneWordAndGivesCopies)
 {
-    LmSdpAttribute attribute("one two");
+    LmSdpAttribute attribute(LmString("one two"));
     LmString copy = attribute.getValue();
     copy.append("!");
     EXPECT_STREQ(attribute.getValue().c_str(), "one two");
