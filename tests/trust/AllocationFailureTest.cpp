@@ -31,6 +31,12 @@ void* allocate(std::size_t size)
     throw std::bad_alloc();
 }
 
+/// Out of line, or g++ takes this for the wrong end of a block from operator new.
+[[gnu::noinline]] void giveBack(void* block)
+{
+    std::free(block);
+}
+
 /// Lets an action run out of memory at its first allocation, its second and so on, until it gets through. After each
 /// failure `isIntact` is asked. Gives how often it failed.
 unsigned int failAtEach(const std::function<void()>& action, const std::function<bool()>& isIntact)
@@ -88,19 +94,19 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
 }
 void operator delete(void* block) noexcept
 {
-    std::free(block);
+    giveBack(block);
 }
 void operator delete[](void* block) noexcept
 {
-    std::free(block);
+    giveBack(block);
 }
 void operator delete(void* block, std::size_t) noexcept
 {
-    std::free(block);
+    giveBack(block);
 }
 void operator delete[](void* block, std::size_t) noexcept
 {
-    std::free(block);
+    giveBack(block);
 }
 
 TEST(AllocationFailure, ReadingKeepsTheFormerTree)
