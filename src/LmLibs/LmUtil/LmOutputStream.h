@@ -60,6 +60,8 @@ protected:
         m_RoomBegin = begin;
         m_RoomEnd = end;
     }
+
+    /// Where the next byte would be put.
     char* roomBegin() const { return m_RoomBegin; }
 
 private:
