@@ -158,17 +158,6 @@ struct BodyRow
     Failure failure = {};
 };
 
-class ReceivedBody : public testing::TestWithParam<BodyRow>
-{
-};
-
-TEST_P(ReceivedBody, IsReadAsStreams)
-{
-    std::string shown;
-    EXPECT_EQ(failureOf([&] { shown = show(read(GetParam().body)); }), GetParam().failure);
-    EXPECT_EQ(shown, GetParam().shown);
-}
-
 /// A session whose address is 192.0.2.7, and these lines behind it.
 std::string peer(const std::string& lines)
 {
@@ -177,33 +166,40 @@ std::string peer(const std::string& lines)
 
 const Failure s_NoAddress = parseError("Invalid SDP Message, both Connection field  and Origin Field are missing\n");
 
-INSTANTIATE_TEST_SUITE_P(
-    , ReceivedBody,
-    testing::Values(
-        BodyRow{"NamedCodecsStandBehindTheOthers",
-                peer("m=audio 49170 RTP/AVP 0 8 96\na=rtpmap:96 telephone-event/8000\na=rtpmap:0 "
-                     "PCMU/8000\na=ptime:20\nm=video 0 RTP/AVP 34\nc=IN IP4 192.0.2.9\n"),
-                "audio 49170 192.0.2.7: 8/ 96/telephone-event 0/PCMU\nvideo 0 192.0.2.7: 34/\n"},
-        BodyRow{"AllKinds", peer("m=text 1 x 1\nm=image 2/9 udptl t38 x\nm=application 3 x  5  5 \n"),
-                "text 1 192.0.2.7: 1/\nimage 2 192.0.2.7: 0/\napplication 3 192.0.2.7: 5/\n"},
-        BodyRow{"RtpmapOfAnUnlistedNumber",
-                peer("a=rtpmap:7 SESSION/1\nm=audio 1 x 0\na=rtpmap:97 A/1\na=rtpmap\na=rtpmap:97 B/1\nb=AS:1\n"),
-                "audio 1 192.0.2.7: 0/ 97/B\n"},
-        BodyRow{"OriginCountsWithoutConnection",
-                "v=0\no=p 1 1 IN IP4 192.0.2.1\ns=s\nt=0 0\nm=audio 1 x 0\nc=IN IP4 192.0.2.9\n",
-                "audio 1 192.0.2.1: 0/\n"},
-        BodyRow{"AddressThatIsNone", "v=0\nc=IN IP4 host\nt=0 0\nm=audio 1 x 0\n", "audio 1 0.0.0.0: 0/\n"},
-        BodyRow{"ConnectionWithEmptyAddress", "v=0\nc=IN IP4 \nt=0 0\nm=audio 1 x 0\n", "audio 1 0.0.0.0: 0/\n"},
-        BodyRow{"UnknownWordsArePassedOver", peer("m=Audio 1 x 0\nm=audiox 1 x 0\nm=audio 2 x 0\nm=\xFF 1 x 0\n"),
-                "audio 2 192.0.2.7: 0/\n"},
-        BodyRow{"NothingUsable", peer("m=message 1 x 0\n"), "(nothing)"},
-        BodyRow{"NoMedia", peer("a=sendrecv\n"), "(nothing)"},
-        BodyRow{"MediaLineWithoutItsClass", peer("mi=audio 1 x 0\n"), "(nothing)"},
-        BodyRow{"OnlyAMediaLevelConnection", "v=0\ns=s\nt=0 0\nm=audio 1 x 0\nc=IN IP4 192.0.2.9\n", "", s_NoAddress},
-        BodyRow{"NoAddressAndNoMedia", "v=0\ns=s\nt=0 0\n", "", s_NoAddress},
-        BodyRow{"OriginWithoutItsClass", "v=0\nos=p 1 1 IN IP4 192.0.2.1\nt=0 0\nm=audio 1 x 0\n", "", s_NoAddress},
-        BodyRow{"ParserErrorsPassThrough", "o=p", "", parseError("SDP Message does not begin with 'v'")}),
-    RowName());
+const BodyRow s_Bodies[] = {
+    {"NamedCodecsStandBehindTheOthers",
+     peer("m=audio 49170 RTP/AVP 0 8 96\na=rtpmap:96 telephone-event/8000\na=rtpmap:0 "
+          "PCMU/8000\na=ptime:20\nm=video 0 RTP/AVP 34\nc=IN IP4 192.0.2.9\n"),
+     "audio 49170 192.0.2.7: 8/ 96/telephone-event 0/PCMU\nvideo 0 192.0.2.7: 34/\n"},
+    {"AllKinds", peer("m=text 1 x 1\nm=image 2/9 udptl t38 x\nm=application 3 x  5  5 \n"),
+     "text 1 192.0.2.7: 1/\nimage 2 192.0.2.7: 0/\napplication 3 192.0.2.7: 5/\n"},
+    {"RtpmapOfAnUnlistedNumber",
+     peer("a=rtpmap:7 SESSION/1\nm=audio 1 x 0\na=rtpmap:97 A/1\na=rtpmap\na=rtpmap:97 B/1\nb=AS:1\n"),
+     "audio 1 192.0.2.7: 0/ 97/B\n"},
+    {"OriginCountsWithoutConnection", "v=0\no=p 1 1 IN IP4 192.0.2.1\ns=s\nt=0 0\nm=audio 1 x 0\nc=IN IP4 192.0.2.9\n",
+     "audio 1 192.0.2.1: 0/\n"},
+    {"AddressThatIsNone", "v=0\nc=IN IP4 host\nt=0 0\nm=audio 1 x 0\n", "audio 1 0.0.0.0: 0/\n"},
+    {"ConnectionWithEmptyAddress", "v=0\nc=IN IP4 \nt=0 0\nm=audio 1 x 0\n", "audio 1 0.0.0.0: 0/\n"},
+    {"UnknownWordsArePassedOver", peer("m=Audio 1 x 0\nm=audiox 1 x 0\nm=audio 2 x 0\nm=\xFF 1 x 0\n"),
+     "audio 2 192.0.2.7: 0/\n"},
+    {"NothingUsable", peer("m=message 1 x 0\n"), "(nothing)"},
+    {"NoMedia", peer("a=sendrecv\n"), "(nothing)"},
+    {"MediaLineWithoutItsClass", peer("mi=audio 1 x 0\n"), "(nothing)"},
+    {"OnlyAMediaLevelConnection", "v=0\ns=s\nt=0 0\nm=audio 1 x 0\nc=IN IP4 192.0.2.9\n", "", s_NoAddress},
+    {"NoAddressAndNoMedia", "v=0\ns=s\nt=0 0\n", "", s_NoAddress},
+    {"OriginWithoutItsClass", "v=0\nos=p 1 1 IN IP4 192.0.2.1\nt=0 0\nm=audio 1 x 0\n", "", s_NoAddress},
+    {"ParserErrorsPassThrough", "o=p", "", parseError("SDP Message does not begin with 'v'")}};
+
+TEST(ReceivedBodies, AreReadAsStreams)
+{
+    for (const BodyRow& row : s_Bodies)
+    {
+        SCOPED_TRACE(row.name);
+        std::string shown;
+        EXPECT_EQ(failureOf([&] { shown = show(read(row.body)); }), row.failure);
+        EXPECT_EQ(shown, row.shown);
+    }
+}
 
 TEST(ReceivedBodies, NoBodyIsNothing)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,8 @@ struct CorpusFile
     std::string name; ///< the file's name without its ending, with every other character than letters and digits as _
     std::string file; ///< the file's name
     std::string text; ///< its bytes
+
+    friend void PrintTo(const CorpusFile& file, std::ostream* out) { *out << file.name; }
 };
 
 /// The bytes of a file below `tests/corpus`.

@@ -63,6 +63,8 @@ struct Limit
     const char* name;
     std::size_t count;
     std::function<void(std::size_t count)> use;
+
+    friend void PrintTo(const Limit& limit, std::ostream* out) { *out << limit.name; }
 };
 
 void readAndWrite(const std::string& body)

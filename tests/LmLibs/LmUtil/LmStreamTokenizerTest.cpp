@@ -78,6 +78,8 @@ struct TokenizerRow
     std::string (*read)(LmInputStream&);
     const char* result;
     unsigned int left;
+
+    friend void PrintTo(const TokenizerRow& row, std::ostream* out) { *out << row.name; }
 };
 
 class StreamTokenizer : public testing::TestWithParam<TokenizerRow>
