@@ -29,17 +29,11 @@ inline void lmRefuseEmptyLine(LmInputStream& in, const char* message)
     }
 }
 
-/// Writes what stands in front of a line's value: the letter and "=".
+/// Writes what stands in front of a line's value: the letter and "=". The classes of the library have one letter each.
 inline void lmWriteToken(LmOutputStream& out, const LmSdpField& field)
 {
-    const char* const token = field.getToken();
-    if (token[0] != '\0' && token[1] == '\0')
-    {
-        const char letter[] = {token[0], '='};
-        out.writeAll({letter, sizeof letter});
-        return;
-    }
-    out << token << "=";
+    const char letter[] = {field.getToken()[0], '='};
+    out.writeAll({letter, sizeof letter});
 }
 
 /// Writes one whole line: the letter, "=", the parts of the value and the line end.
