@@ -54,9 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     std::string body(viewOf(data, size));
     LmHandle<LmMediaSession> hSession;
-    failureOf([&] {
-        hSession = LmMediaSession::sCreateSession(body.data(), static_cast<unsigned int>(body.size()));
-    });
+    failureOf([&] { hSession = LmMediaSession::sCreateSession(body.data(), static_cast<unsigned int>(body.size())); });
     if (hSession.isNull())
     {
         return 0;
