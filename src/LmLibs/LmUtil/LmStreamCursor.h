@@ -223,17 +223,16 @@ std::string_view lmTakeWord(Cursor& cursor)
     return cursor.takeUntilSpace();
 }
 
-/// What lmTakeUnsigned gives for no number, and for one that needs more than 32 bits.
-constexpr unsigned int g_LmNoNumber = 0xFFFFFFFF;
-
-/// Takes a decimal number, nothing in front of it passed over; the byte behind its digits stays.
+/// Takes a decimal number, nothing in front of it passed over; the byte behind its digits stays. Gives 0xFFFFFFFF where
+/// there is no digit, and for a number that needs more than 32 bits.
 template <typename Cursor>
 unsigned int lmTakeUnsigned(Cursor& cursor)
 {
-    std::uint64_t number = lmIsDigit(cursor.peek()) ? 0 : g_LmNoNumber;
+    constexpr std::uint64_t none = 0xFFFFFFFF;
+    std::uint64_t number = lmIsDigit(cursor.peek()) ? 0 : none;
     for (int next = cursor.peek(); lmIsDigit(next); next = cursor.peek())
     {
-        number = std::min<std::uint64_t>(number * 10 + static_cast<std::uint64_t>(next - '0'), g_LmNoNumber);
+        number = std::min(number * 10 + static_cast<std::uint64_t>(next - '0'), none);
         cursor.advance();
     }
     return static_cast<unsigned int>(number);
