@@ -21,8 +21,10 @@ public:
     LmTextCursor(const LmTextCursor&) = delete;
     LmTextCursor& operator=(const LmTextCursor&) = delete;
 
+    bool isAtEnd() const { return m_Next == m_End; }
+
     /// The next byte, unread, or -1 at the end of input.
-    int peek() const { return m_Next == m_End ? -1 : static_cast<unsigned char>(*m_Next); }
+    int peek() const { return isAtEnd() ? -1 : static_cast<unsigned char>(*m_Next); }
     void advance() { ++m_Next; }
 
     template <typename Predicate>
@@ -89,6 +91,9 @@ public:
     explicit LmByteCursor(LmInputStream& in, unsigned int readLimit = 1) : m_In(in), m_ReadLimit(readLimit) {}
     LmByteCursor(const LmByteCursor&) = delete;
     LmByteCursor& operator=(const LmByteCursor&) = delete;
+
+    /// What the stream itself says, no byte being read for it.
+    bool isAtEnd() { return m_In.available() == 0; }
 
     int peek()
     {

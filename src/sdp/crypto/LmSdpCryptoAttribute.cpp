@@ -56,7 +56,7 @@ std::string_view loggable(std::string_view suite)
     return suite.substr(0, suite.find(':'));
 }
 
-/// A 32-bit number as "%d" writes it.
+/// Whether this is the one key method there is, in upper or lower case.
 bool isInline(std::string_view method)
 {
     constexpr std::string_view name = "inline";
@@ -70,7 +70,7 @@ void appendNumber(std::string& text, Number number)
     text.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
 }
 
-/// A value that is not set is written as -1.
+/// A 32-bit number as "%d" writes it: one that is not set as -1.
 void appendSigned(std::string& text, unsigned int number)
 {
     appendNumber(text, static_cast<int>(number));
@@ -295,8 +295,12 @@ template <typename Cursor>
 void LmSdpCryptoAttribute::readKeyMki(LmCryptoKey& key, Cursor& cursor)
 {
     const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parseKeyMki");
+    if (cursor.isAtEnd())
+    {
+        return;
+    }
     const int next = cursor.peek();
-    if (next == -1 || next == ' ' || next == '\r' || next == '\n' || next == ';')
+    if (next == ' ' || next == '\r' || next == '\n' || next == ';')
     {
         return;
     }
@@ -324,7 +328,7 @@ void LmSdpCryptoAttribute::readKeyMki(LmCryptoKey& key, Cursor& cursor)
 template <typename Cursor>
 void LmSdpCryptoAttribute::readSessionParameters(Cursor& cursor)
 {
-    while (cursor.peek() != -1)
+    while (!cursor.isAtEnd())
     {
         const auto name = takeToken(cursor, s_BehindName);
         if (!name)

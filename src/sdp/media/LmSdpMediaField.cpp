@@ -26,7 +26,6 @@ constexpr std::size_t s_LongestText = 255; ///< of the ports, and of all formats
     LmSdpParseError::sThrow("Parse error in LmSdpMediaField::parse()");
 }
 
-/// Takes the one character behind a word; a blank must not follow it.
 template <typename Cursor>
 bool isLineOver(Cursor& cursor)
 {
