@@ -2,6 +2,7 @@
 
 #include "sdp/fields/LineTable.h"
 #include "sdp/media/LmSdpAttributeField.h"
+#include "support/ByteStream.h"
 #include "support/LogCapture.h"
 
 #include <algorithm>
@@ -198,6 +199,31 @@ TEST(CryptoClone, HasTheOldTextUntilASetterIsUsed)
     hClone->addKey("L", 64);
     EXPECT_STREQ(hClone->getValue().c_str(), "2 X\r\ninline:K;\r\ninline:L\r\nKDR=1");
     EXPECT_STREQ(original.getValue().c_str(), "1 X inline:K\r\nKDR=1");
+}
+
+/// Says that it ends in front of its last bytes, as a stream does that knows how long its part of a source is.
+class PartStream : public ByteStream
+{
+public:
+    PartStream(const char* text, unsigned int behind) : ByteStream(LmByteArray::sCreate(text)), m_Behind(behind) {}
+
+    unsigned int available() override { return ByteStream::available() - m_Behind; }
+    int read() override
+    {
+        EXPECT_NE(available(), 0U) << "read behind the end";
+        return ByteStream::read();
+    }
+
+private:
+    const unsigned int m_Behind;
+};
+
+TEST(CryptoValue, EndsWhereTheStreamSaysSo)
+{
+    PartStream in("1 SUITE_X inline:K UNENCRYPTED_SRTP KDR=1", 5);
+    Attribute attribute;
+    attribute.parse(in);
+    EXPECT_EQ(describe(attribute), "1 3:SUITE_X {K - -:-} <UNENCRYPTED_SRTP,1=>");
 }
 
 TEST(CryptoGetters, GiveFalseAndAnErrorLineForAnIndexWithoutAKey)
