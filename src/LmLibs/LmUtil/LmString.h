@@ -67,7 +67,7 @@ public:
 
     ~LmString()
     {
-        // Counted here, where the class is known, rather than through the object's table.
+        // Counted here, where the class is known, rather than through the object's table; the base finds nothing left.
         if (LmStringBuffer* const pBuffer = buffer())
         {
             pBuffer->Release();

@@ -40,11 +40,11 @@ void copyEnds(char* to, std::string_view text)
 /// Copies a text without a call where it is as short as most are.
 inline void copyShort(char* to, std::string_view text)
 {
-    if (text.size() - sizeof(std::uint64_t) <= sizeof(std::uint64_t))
+    if (text.size() >= 8 && text.size() <= 16)
     {
         copyEnds<std::uint64_t>(to, text);
     }
-    else if (text.size() - sizeof(std::uint32_t) <= sizeof(std::uint32_t))
+    else if (text.size() >= 4 && text.size() < 8)
     {
         copyEnds<std::uint32_t>(to, text);
     }
@@ -158,7 +158,7 @@ LmStringBuffer::~LmStringBuffer()
     dropOutsideText();
 }
 
-/// The same as `delete`, in one piece.
+/// The same as `delete`, in one piece for a buffer whose text lies behind it, as nearly all do.
 void LmStringBuffer::sDestroy(LmStringBuffer* pBuffer) noexcept
 {
     if (__builtin_expect(pBuffer->isTextOutside(), 0))

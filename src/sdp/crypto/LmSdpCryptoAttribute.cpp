@@ -169,6 +169,13 @@ LmSdpCryptoAttribute::LmSdpCryptoAttribute(const char* text) : LmSdpAttribute(te
     lmParseText(*this, text);
 }
 
+LmSdpCryptoAttribute::LmSdpCryptoAttribute(std::string_view text) : LmSdpAttribute(text)
+{
+    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::LmSdpCryptoAttribute");
+    LmTextCursor cursor(text);
+    read(cursor);
+}
+
 LmSdpCryptoAttribute::~LmSdpCryptoAttribute()
 {
     const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::~LmSdpCryptoAttribute");
@@ -184,13 +191,6 @@ LmObject* LmSdpCryptoAttribute::clone() const
     pClone->m_SecurityDescriptions = m_SecurityDescriptions;
     pClone->setBuiltValue(builtValue());
     return pClone.release();
-}
-
-LmSdpCryptoAttribute::LmSdpCryptoAttribute(std::string_view text) : LmSdpAttribute(text)
-{
-    const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::LmSdpCryptoAttribute");
-    LmTextCursor cursor(text);
-    read(cursor);
 }
 
 void LmSdpCryptoAttribute::parse(LmInputStream& in)
@@ -333,6 +333,10 @@ void LmSdpCryptoAttribute::readSessionParameters(Cursor& cursor)
         const auto name = takeToken(cursor, s_BehindName);
         if (!name)
         {
+            if (!cursor.isAtEnd() && cursor.peek() == -1)
+            {
+                return; // a stream that promises bytes and gives none
+            }
             continue;
         }
         if (name->empty())

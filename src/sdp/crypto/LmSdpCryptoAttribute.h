@@ -105,17 +105,17 @@ private:
     ///@{
     /// The steps of reading, over whatever there is to read from.
     template <typename Cursor>
-    void read(Cursor& cursor);
+    LMSDP_LOCAL void read(Cursor& cursor);
     template <typename Cursor>
-    void readSuite(Cursor& cursor);
+    LMSDP_LOCAL void readSuite(Cursor& cursor);
     template <typename Cursor>
-    void readKeys(Cursor& cursor);
+    LMSDP_LOCAL void readKeys(Cursor& cursor);
     template <typename Cursor>
-    void readKey(Cursor& cursor);
+    LMSDP_LOCAL void readKey(Cursor& cursor);
     template <typename Cursor>
-    void readKeyMki(LmCryptoKey& key, Cursor& cursor);
+    LMSDP_LOCAL void readKeyMki(LmCryptoKey& key, Cursor& cursor);
     template <typename Cursor>
-    void readSessionParameters(Cursor& cursor);
+    LMSDP_LOCAL void readSessionParameters(Cursor& cursor);
     ///@}
 
     void storeSuite(std::string_view name);

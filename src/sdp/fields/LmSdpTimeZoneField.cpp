@@ -6,6 +6,7 @@
 
 #include <array>
 #include <charconv>
+#include <utility>
 
 namespace
 {

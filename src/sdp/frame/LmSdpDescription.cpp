@@ -108,6 +108,7 @@ LmHandle<LmSdpField> LmSdpDescription::getField(const char* token) const
     return slot < sm_SlotCount ? m_Fields[slot] : nullptr;
 }
 
+/// Within the loop over the lines, where it is nearly always called: there the handle need not be in memory.
 __attribute__((always_inline)) inline void LmSdpDescription::file(LmHandle<LmSdpField>&& hField)
 {
     LmSdpField* const pField = hField.untested();
@@ -164,10 +165,9 @@ void LmSdpDescription::sAddConstructor(const char* token, Constructor constructo
 void LmSdpDescription::parse(LmInputStream& in)
 {
     const Quorvex::TraceScope trace(s_Logger, "LmSdpDescription::parse");
-    const Quorvex::Logger* const pFieldLogger = LmSdpField::sListening();
     do
     {
-        file(LmSdpField::sConstructFrom(in, pFieldLogger));
+        file(LmSdpField::sConstructFrom(in));
     } while (isOwnLineNext(in));
 }
 

@@ -42,16 +42,6 @@ LmSdpField::~LmSdpField()
     lmReleaseChain(m_Next, [](LmSdpField& field) -> LmHandle<LmSdpField>& { return field.m_Next; });
 }
 
-LmHandle<LmSdpField> LmSdpField::sConstructFrom(LmInputStream& in)
-{
-    return sConstructFrom(in, sListening());
-}
-
-const Quorvex::Logger* LmSdpField::sListening()
-{
-    return s_Logger.listening(Quorvex::eDebug);
-}
-
 /// Makes the field that is registered for a token, and has it read the rest of the line.
 inline LmHandle<LmSdpField> LmSdpField::sRead(const char* token, LmInputStream& in)
 {
@@ -66,14 +56,19 @@ inline LmHandle<LmSdpField> LmSdpField::sRead(const char* token, LmInputStream& 
     return hField;
 }
 
-LmHandle<LmSdpField> LmSdpField::sTake(LmInputStream& in)
+LmHandle<LmSdpField> LmSdpField::sConstructFrom(LmInputStream& in)
 {
+    const Quorvex::Logger* const pLogger = s_Logger.listening(Quorvex::eDebug);
+    if (__builtin_expect(pLogger != nullptr, 0))
+    {
+        return sConstructTraced(in, pLogger);
+    }
     TokenBuffer tokenBuf;
     takeToken(in, tokenBuf);
     return sRead(tokenBuf, in);
 }
 
-LmHandle<LmSdpField> LmSdpField::sTakeTraced(LmInputStream& in, const Quorvex::Logger* pLogger)
+LmHandle<LmSdpField> LmSdpField::sConstructTraced(LmInputStream& in, const Quorvex::Logger* pLogger)
 {
     const Quorvex::TraceScope trace(pLogger, "LmSdpField::sConstructFrom");
     TokenBuffer tokenBuf;

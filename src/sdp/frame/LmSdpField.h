@@ -77,15 +77,8 @@ private:
     friend class LmSdpDescription;
 
     ///@{
-    /// Reading in two steps, for who reads many lines: the logger, null where no debug line would be heard, is asked
-    /// once.
-    static const Quorvex::Logger* sListening();
-    static LmHandle<LmSdpField> sConstructFrom(LmInputStream& in, const Quorvex::Logger* pLogger)
-    {
-        return __builtin_expect(pLogger == nullptr, 1) ? sTake(in) : sTakeTraced(in, pLogger);
-    }
-    static LmHandle<LmSdpField> sTake(LmInputStream& in);
-    static LmHandle<LmSdpField> sTakeTraced(LmInputStream& in, const Quorvex::Logger* pLogger);
+    /// Reading with and without a debug line.
+    static LmHandle<LmSdpField> sConstructTraced(LmInputStream& in, const Quorvex::Logger* pLogger);
     static LmHandle<LmSdpField> sRead(const char* token, LmInputStream& in);
     ///@}
 

@@ -1,6 +1,7 @@
 #include "sdp/media/LmSdpMediaField.h"
 
 #include "LmLibs/LmUtil/LmCharacters.h"
+#include "LmLibs/LmUtil/LmStreamCursor.h"
 #include "core/TraceScope.h"
 #include "sdp/frame/LmSdpCommonText.h"
 #include "sdp/frame/LmSdpLine.h"

@@ -82,7 +82,7 @@ private:
     LmSdpMediaField();
 
     template <typename Cursor>
-    void read(Cursor& cursor);
+    LMSDP_LOCAL void read(Cursor& cursor);
     void takePort(std::string_view token);
     LmSdpWordList::iterator find(unsigned int format);
 
