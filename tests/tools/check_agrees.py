@@ -88,7 +88,7 @@ def faults_of(body, findings, normal):
     if any("class" in finding for finding in findings) != (normal.returncode == 1):
         yield "one refuses, the other does not"
     yield from place_faults(body, findings)
-    if all(finding["severity"] == "note" for finding in findings):
+    if normal.returncode == 0 and all(finding["severity"] == "note" for finding in findings):
         yield from change_faults(body, findings, output)
 
 

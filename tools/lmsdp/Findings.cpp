@@ -65,9 +65,9 @@ private:
         return m_Findings.back();
     }
 
-    void addFailure(std::size_t offset, const Failure& failure, const char* prefix)
+    void addFailure(Severity severity, std::size_t offset, const Failure& failure, const char* prefix)
     {
-        Finding& finding = add(Severity::error, offset, prefix + failure.exceptionClass + ": " + failure.words);
+        Finding& finding = add(severity, offset, prefix + failure.exceptionClass + ": " + failure.words);
         finding.exceptionClass = failure.exceptionClass;
         finding.expected = expectedForm(finding.text);
     }
@@ -76,11 +76,11 @@ private:
     {
         if (!m_Read.empty())
         {
-            addFailure(m_Read.back().begin, *m_Reading.refusal, "");
+            addFailure(Severity::error, m_Read.back().begin, *m_Reading.refusal, "");
             return;
         }
         const std::size_t first = refusedAt(m_Body, m_Reading);
-        addFailure(first, *m_Reading.refusal, "");
+        addFailure(Severity::error, first, *m_Reading.refusal, "");
         m_Findings.back().expected = "RFC 4566, section 5.1: a body begins with v=0";
     }
 
@@ -98,7 +98,7 @@ private:
         if (const std::optional<Failure> failure =
                 attempt([&] { written = lmsdp::written(static_cast<const LmSdpField&>(*m_Read[i].field)); }))
         {
-            addFailure(m_Read[i].begin, *failure, "cannot be written: ");
+            addFailure(Severity::note, m_Read[i].begin, *failure, "cannot be written: ");
             return;
         }
         written.resize(written.size() - 2);

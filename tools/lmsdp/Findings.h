@@ -7,8 +7,8 @@ namespace lmsdp
 
 enum class Severity
 {
-    error, ///< text is refused, left unread, or cannot be written
-    note   ///< the text comes back in another form or place
+    error, ///< text is refused, left unread, or read as part of another line
+    note   ///< the text was read, and comes back in another form or place, or cannot be written back
 };
 
 /// One thing that happens to a body when it is read and written.
