@@ -11,7 +11,7 @@ struct CorpusFile
     std::string file; ///< the file's name
     std::string text; ///< its bytes
 
-    friend void PrintTo(const CorpusFile& file, std::ostream* out) { *out << file.name; }
+    friend void PrintTo(const CorpusFile& body, std::ostream* out) { *out << body.name; }
 };
 
 /// The bytes of a file below `tests/corpus`.

@@ -45,17 +45,12 @@ protected:
 
     ~LmHandleBase() { release(m_pObject); }
 
-    /// For owners that count for themselves: takes a reference over, or hands the own one out.
+    /// For owners that count for themselves: takes a reference over, or leaves its release to them.
     struct Adopt
     {
     };
     LmHandleBase(LmObject* pCounted, Adopt) noexcept : m_pObject(pCounted) {}
-    LmObject* detach() noexcept
-    {
-        LmObject* const pObject = m_pObject;
-        m_pObject = nullptr;
-        return pObject;
-    }
+    void forget() noexcept { m_pObject = nullptr; }
 
     /// Refers to the new object, or to nothing, and gives the old one up.
     void assign(const LmObject* pObject) noexcept

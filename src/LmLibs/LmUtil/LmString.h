@@ -71,7 +71,7 @@ public:
         if (LmStringBuffer* const pBuffer = buffer())
         {
             pBuffer->Release();
-            detach();
+            forget();
         }
     }
 
