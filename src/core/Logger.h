@@ -43,7 +43,7 @@ public:
     /// True when a line at `level` can be dropped without asking any further: the level in force is above it, or no
     /// appender listens. It reads log4cplus's state without a lock and without a call, so a line that is written
     /// while another thread sets logging up may be missed.
-    bool isSilentAt(int level) const { return level < chainedLevel() || !isHeard(); }
+    bool isSilentAt(int level) const { return !isHeard() || level < chainedLevel(); }
 
     /// Not zero when at least one appender, of this logger or of those above it, would take a line now.
     virtual std::uint64_t isReady() const;

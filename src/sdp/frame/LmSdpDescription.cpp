@@ -6,6 +6,7 @@
 #include "core/TraceScope.h"
 #include "sdp/frame/LmSdpChain.h"
 #include "sdp/frame/LmSdpCommonText.h"
+#include "sdp/frame/LmSdpLineReading.h"
 #include "sdp/frame/LmSdpParseError.h"
 #include "sdp/frame/LmSdpRegistry.h"
 
@@ -94,10 +95,22 @@ bool LmSdpDescription::isFieldInDescription(const char* token)
     return hasToken(token);
 }
 
-/// True when the next line, shown behind any white space, has a letter that belongs here and begins no description.
-inline bool LmSdpDescription::isOwnLineNext(LmInputStream& in) const
+/// The letters a to z that belong here and begin no description.
+inline std::uint32_t LmSdpDescription::ownLetters() const
 {
-    const Letter letter(LmStreamTokenizer::sDiscardWhite(in));
+    return m_Letters & ~(sm_ConstructorMap == nullptr ? 0 : sm_ConstructorMap->letters());
+}
+
+/// True when the next line, shown behind any white space, has a letter that belongs here and begins no description.
+/// `letters` is what `ownLetters` gives.
+inline bool LmSdpDescription::isOwnLineNext(LmInputStream& in, std::uint32_t letters) const
+{
+    const int next = LmStreamTokenizer::sDiscardWhite(in);
+    if (__builtin_expect(next >= 'a' && next <= 'z', 1))
+    {
+        return (letters & bitOf(static_cast<char>(next))) != 0;
+    }
+    const Letter letter(next);
     return !letter.isEndOfInput() && hasToken(letter.text) &&
            (sm_ConstructorMap == nullptr || sm_ConstructorMap->find(letter.text) == nullptr);
 }
@@ -165,10 +178,11 @@ void LmSdpDescription::sAddConstructor(const char* token, Constructor constructo
 void LmSdpDescription::parse(LmInputStream& in)
 {
     const Quorvex::TraceScope trace(s_Logger, "LmSdpDescription::parse");
+    const std::uint32_t letters = ownLetters();
     do
     {
-        file(LmSdpField::sConstructFrom(in));
-    } while (isOwnLineNext(in));
+        file(LmSdpField::sReadLine(in));
+    } while (isOwnLineNext(in, letters));
 }
 
 void LmSdpDescription::serialize(LmOutputStream& out) const

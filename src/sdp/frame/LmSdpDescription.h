@@ -113,7 +113,8 @@ private:
     bool isBehind(const LmSdpDescription* pDescription) const;
 
     void file(LmHandle<LmSdpField>&& hField);
-    bool isOwnLineNext(LmInputStream& in) const;
+    std::uint32_t ownLetters() const;
+    bool isOwnLineNext(LmInputStream& in, std::uint32_t letters) const;
     bool hasToken(const char* token) const;
     unsigned int ownSlot(const char* token) const;
     static unsigned int sGetFieldPosition(const char* token);

@@ -13,6 +13,7 @@
 
 namespace Quorvex
 {
+class FileLogger;
 class Logger;
 }
 
@@ -77,9 +78,10 @@ private:
     friend class LmSdpDescription;
 
     ///@{
-    /// Reading with and without a debug line.
-    static LmHandle<LmSdpField> sConstructTraced(LmInputStream& in, const Quorvex::Logger* pLogger);
-    static LmHandle<LmSdpField> sRead(const char* token, LmInputStream& in);
+    /// What `sConstructFrom` does, in place for the loop over a description's lines (LmSdpLineReading.h).
+    static LmHandle<LmSdpField> sReadLine(LmInputStream& in);
+    static LmHandle<LmSdpField> sReadValue(const char* token, LmInputStream& in);
+    static LmHandle<LmSdpField> sReadLineTraced(LmInputStream& in, const Quorvex::Logger* pLogger);
     ///@}
 
     /// Appends at the tail of the chain that begins here.
@@ -96,6 +98,7 @@ private:
     }
 
     static LmSdpRegistry<LmSdpField>* sm_pConstructorMap;
+    static Quorvex::FileLogger sm_Logger;
 
     LmString m_Token;
     bool m_ChangedFlag = false;

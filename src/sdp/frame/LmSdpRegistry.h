@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 
 /// Which class is made for which token: an ordered map of functions that make a `Product`. The first registration of
@@ -40,6 +41,9 @@ public:
         return entry == m_Constructors.end() ? nullptr : entry->second;
     }
 
+    /// The letters a to z that are registered as tokens of their own, one bit each.
+    std::uint32_t letters() const { return m_Letters; }
+
 private:
     struct Less
     {
@@ -59,7 +63,9 @@ private:
         const LmString& key = inserted.first->first;
         if (key.length() == 1)
         {
-            m_ByLetter[static_cast<unsigned char>(key.view().front())] = inserted.first->second;
+            const char letter = key.view().front();
+            m_ByLetter[static_cast<unsigned char>(letter)] = inserted.first->second;
+            m_Letters |= letter >= 'a' && letter <= 'z' ? std::uint32_t(1) << (letter - 'a') : 0;
         }
     }
 
@@ -72,4 +78,5 @@ private:
 
     std::map<LmString, Constructor, Less> m_Constructors;
     std::array<Constructor, 256> m_ByLetter{};
+    std::uint32_t m_Letters = 0;
 };
