@@ -23,18 +23,18 @@ public:
     Logger* get()
     {
         Logger* const pLogger = m_pLogger.load(std::memory_order_acquire);
-        return pLogger != nullptr ? pLogger : make();
+        return __builtin_expect(pLogger != nullptr, 1) ? pLogger : make();
     }
 
     /// The logger, unless it would drop a line at `level`: null then, and so it is for every lower level.
     const Logger* listening(int level)
     {
         const Logger* const pLogger = get();
-        return pLogger != nullptr && !pLogger->isSilentAt(level) ? pLogger : nullptr;
+        return __builtin_expect(pLogger == nullptr, 0) || pLogger->isSilentAt(level) ? nullptr : pLogger;
     }
 
 private:
-    Logger* make();
+    __attribute__((cold)) Logger* make();
 
     const char* m_Category;
     std::atomic<Logger*> m_pLogger{nullptr};

@@ -90,8 +90,8 @@ private:
 
     ///@{
     /// The way of blocks that do not come from the thread's own heap.
-    void* allocateLarge(std::size_t size);
-    void deallocateLarge(Header* header) noexcept;
+    __attribute__((cold)) void* allocateLarge(std::size_t size);
+    __attribute__((cold)) void deallocateLarge(Header* header) noexcept;
     ///@}
 
     static std::atomic<MemAccount*> sm_First;

@@ -36,8 +36,8 @@ public:
 protected:
     ///@{
     /// Write the two lines.
-    void ctorLog() const;
-    void dtorLog() const;
+    __attribute__((cold)) void ctorLog() const;
+    __attribute__((cold)) void dtorLog() const;
     ///@}
 
 private:

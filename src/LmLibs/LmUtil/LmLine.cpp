@@ -2,29 +2,42 @@
 
 #include "LmLibs/LmUtil/LmStreamCursor.h"
 
+#include <cstddef>
+
 void LmLine::mark(const char* begin, const char* end)
 {
-    // A NUL and the line ends show as control characters, of which a line has hardly any others.
-    const auto nextControl = [end](const char* from) {
-        return lmFindFirst(
-            from, end, [](int c) { return c <= '\r'; }, LM_HITS(lmHitsUpTo(bytes, '\r')));
-    };
-    const auto nextControlOrColon = [end](const char* from) {
-        return lmFindFirst(
-            from, end, [](int c) { return c <= '\r' || c == ':'; },
-            LM_HITS(_mm_or_si128(lmHitsUpTo(bytes, '\r'), lmHitsOf(bytes, ':'))));
-    };
+    const char* place = begin;
     const char* colon = nullptr;
     bool hasNul = false;
-    const char* place = nextControlOrColon(begin);
-    while (place != end && !lmIsLineEnd(*place))
+    unsigned int controls = 0;
+#ifdef __SSE2__
+    // Line ends show among the control characters, of which a line has hardly any others: up to the first of those,
+    // sixteen bytes are looked at together.
+    constexpr std::ptrdiff_t blockSize = 16;
+    const auto maskOf = [](__m128i hits) { return static_cast<unsigned int>(_mm_movemask_epi8(hits)); };
+    for (; controls == 0 && end - place >= blockSize; place += controls == 0 ? blockSize : __builtin_ctz(controls))
     {
-        if (*place == ':')
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(place));
+        controls = maskOf(lmHitsUpTo(bytes, '\r'));
+        if (colon == nullptr)
         {
-            colon = place;
+            const unsigned int colons = maskOf(lmHitsOf(bytes, ':')) & ~controls & (controls - 1);
+            colon = colons != 0 ? place + __builtin_ctz(colons) : nullptr;
         }
+    }
+#endif
+    const auto findNext = [end, &colon](const char* from) {
+        const auto isControl = [](int c) { return c <= '\r'; };
+        const auto isControlOrColon = [](int c) { return c <= '\r' || c == ':'; };
+        return colon != nullptr
+                   ? lmFindFirst(from, end, isControl, LM_HITS(lmHitsUpTo(bytes, '\r')))
+                   : lmFindFirst(from, end, isControlOrColon,
+                                 LM_HITS(_mm_or_si128(lmHitsUpTo(bytes, '\r'), lmHitsOf(bytes, ':'))));
+    };
+    for (place = controls != 0 ? place : findNext(place); place != end && !lmIsLineEnd(*place); place = findNext(place + 1))
+    {
+        colon = *place == ':' && colon == nullptr ? place : colon;
         hasNul |= *place == '\0';
-        place = colon == nullptr ? nextControlOrColon(place + 1) : nextControl(place + 1);
     }
     m_Begin = begin;
     m_End = place;

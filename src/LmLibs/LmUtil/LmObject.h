@@ -59,7 +59,7 @@ public:
     virtual unsigned long Release(bool destroyAtZero = true)
     {
         const unsigned long count = m_Count.decrement();
-        if (count == 0 && destroyAtZero)
+        if (__builtin_expect(count == 0 && destroyAtZero, 1))
         {
             delete this;
         }

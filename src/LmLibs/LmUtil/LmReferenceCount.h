@@ -26,7 +26,7 @@ public:
     {
         const std::uint32_t count = m_Count.load(std::memory_order_relaxed);
         // An object without an owner is in the hands of one thread only.
-        if (count == 0)
+        if (__builtin_expect(count == 0, 1))
         {
             m_Count.store(1, std::memory_order_relaxed);
             return 1;

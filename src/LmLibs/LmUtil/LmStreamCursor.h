@@ -164,7 +164,7 @@ private:
 
 /// The way of streams without a window, kept out of the way of the other.
 template <typename Operation>
-__attribute__((noinline)) auto lmWithByteCursor(LmInputStream& in, Operation& operation, unsigned int readLimit)
+__attribute__((noinline, cold)) auto lmWithByteCursor(LmInputStream& in, Operation& operation, unsigned int readLimit)
 {
     LmByteCursor cursor(in, readLimit);
     return operation(cursor);

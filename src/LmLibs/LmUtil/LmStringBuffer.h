@@ -71,7 +71,7 @@ public:
     unsigned long Release(bool destroyAtZero = true) override
     {
         const unsigned long count = LmObject::Release(false);
-        if (count == 0 && destroyAtZero)
+        if (__builtin_expect(count == 0 && destroyAtZero, 1))
         {
             sDestroy(this);
         }

@@ -12,29 +12,29 @@
 using LmSdpTokenBuffer = char[4];
 
 /// The way of tokens that are no single letter, and of streams without a window.
-LMSDP_LOCAL void lmSdpTakeLongToken(LmInputStream& in, LmSdpTokenBuffer& token);
+LMSDP_LOCAL __attribute__((cold)) void lmSdpTakeLongToken(LmInputStream& in, LmSdpTokenBuffer& token);
 
 /// Takes a line's token and the "=" behind it. Nearly every token is one letter, which a window shows at a glance.
 inline void lmSdpTakeToken(LmInputStream& in, LmSdpTokenBuffer& token)
 {
     const char* const next = in.windowBegin();
-    const bool isLetter =
-        in.hasWindow() && in.windowEnd() - next >= 2 && next[1] == '=' && next[0] > ' ' && next[0] != '=';
-    if (__builtin_expect(isLetter, 1))
+    if (__builtin_expect(in.windowEnd() - next < 2, 0) || __builtin_expect(next[1] != '=', 0) ||
+        __builtin_expect(next[0] < 'a' || next[0] > 'z', 0))
     {
-        token[0] = next[0];
-        token[1] = '\0';
-        in.consumeTo(next + 2);
+        lmSdpTakeLongToken(in, token);
         return;
     }
-    lmSdpTakeLongToken(in, token);
+    token[0] = next[0];
+    token[1] = '\0';
+    in.consumeTo(next + 2);
 }
 
 /// Makes the field that is registered for a token, and has it read the rest of the line.
 __attribute__((always_inline)) inline LmHandle<LmSdpField> LmSdpField::sReadValue(const char* token, LmInputStream& in)
 {
-    const Constructor constructor = sm_pConstructorMap == nullptr ? nullptr : sm_pConstructorMap->find(token);
-    LmSdpField* pField = constructor == nullptr ? nullptr : constructor();
+    const Constructor constructor =
+        __builtin_expect(sm_pConstructorMap == nullptr, 0) ? nullptr : sm_pConstructorMap->find(token);
+    LmSdpField* pField = __builtin_expect(constructor == nullptr, 0) ? nullptr : constructor();
     if (__builtin_expect(pField == nullptr, 0))
     {
         pField = new LmSdpUnusedField(token);
