@@ -76,6 +76,12 @@ public:
     static long sLiveObjects();
 
 protected:
+    /// What `Release` does to the count; true when the object is to be destroyed.
+    bool dropsLast() noexcept
+    {
+        return m_Count.decrementsToZero();
+    }
+
     /// True before the first handle has received this object.
     bool isUnowned() const noexcept
     {

@@ -64,6 +64,19 @@ public:
         return m_Count.fetch_sub(1, std::memory_order_acq_rel) - 1;
     }
 
+    /// The same, but tells only whether the count is 0 now. The ways of an only owner and of an immortal object are in
+    /// place, and the third is not.
+    bool decrementsToZero() noexcept
+    {
+        const std::uint32_t count = m_Count.load(std::memory_order_acquire);
+        if (count == 1)
+        {
+            m_Count.store(0, std::memory_order_relaxed);
+            return true;
+        }
+        return count != sm_Immortal && decrementShared() == 0;
+    }
+
     /// True when the caller, who holds a reference, holds the only one.
     bool isOne() const noexcept { return m_Count.load(std::memory_order_acquire) == 1; }
 
@@ -71,6 +84,8 @@ public:
     bool isZero() const noexcept { return m_Count.load(std::memory_order_relaxed) == 0; }
 
 private:
+    __attribute__((noinline)) std::uint32_t decrementShared() noexcept { return decrement(); }
+
     static constexpr std::uint32_t sm_Immortal = 0xFFFFFFFF;
 
     std::atomic<std::uint32_t> m_Count{0};

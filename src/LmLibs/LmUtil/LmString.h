@@ -70,7 +70,7 @@ public:
         // Counted here, where the class is known, rather than through the object's table; the base finds nothing left.
         if (LmStringBuffer* const pBuffer = buffer())
         {
-            pBuffer->Release();
+            pBuffer->drop();
             forget();
         }
     }

@@ -78,6 +78,15 @@ public:
         return count;
     }
 
+    /// The same for LmString, which knows the class: not through the object's table.
+    void drop()
+    {
+        if (dropsLast())
+        {
+            sDestroy(this);
+        }
+    }
+
     /// The text's room lies behind the object, so a buffer is made by `sCreate` alone.
     static void operator delete(void* block) noexcept;
 

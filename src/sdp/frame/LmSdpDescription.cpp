@@ -118,7 +118,7 @@ inline bool LmSdpDescription::isOwnLineNext(LmInputStream& in, std::uint32_t let
 LmHandle<LmSdpField> LmSdpDescription::getField(const char* token) const
 {
     const unsigned int slot = sGetFieldPosition(token);
-    return slot < sm_SlotCount ? m_Fields[slot] : nullptr;
+    return slot < sm_SlotCount ? m_Fields.first(slot) : nullptr;
 }
 
 /// Within the loop over the lines, where it is nearly always called: there the handle need not be in memory.
@@ -130,10 +130,10 @@ __attribute__((always_inline)) inline void LmSdpDescription::file(LmHandle<LmSdp
     {
         LmException::sThrow("field doesn't belong in this description type LmSdpDescription::addField()");
     }
-    LmSdpField* const pFirst = m_Fields[slot].untested();
+    LmSdpField* const pFirst = m_Fields.first(slot);
     if (pFirst == nullptr)
     {
-        m_Fields[slot] = std::move(hField);
+        m_Fields.take(slot, std::move(hField));
         return;
     }
     if (pField->last() == pFirst->last())
@@ -193,29 +193,24 @@ void LmSdpDescription::serialize(LmOutputStream& out) const
 
 void LmSdpDescription::serializeSlots(LmOutputStream& out, unsigned int first, unsigned int end) const
 {
-    for (unsigned int slot = first; slot < end; ++slot)
-    {
-        for (const LmSdpField* pField = m_Fields[slot].untested(); pField != nullptr;
-             pField = pField->m_Next.untested())
+    m_Fields.forEach(first, end, [&out](const LmSdpField& chain) {
+        for (const LmSdpField* pField = &chain; pField != nullptr; pField = pField->m_Next.untested())
         {
             pField->serialize(out);
         }
-    }
+    });
 }
 
 bool LmSdpDescription::isAnyFieldChanged(unsigned int first, unsigned int end) const
 {
-    for (unsigned int slot = first; slot < end; ++slot)
-    {
-        for (LmSdpField* pField = m_Fields[slot].untested(); pField != nullptr; pField = pField->m_Next.untested())
+    bool isChanged = false;
+    m_Fields.forEach(first, end, [&isChanged](LmSdpField& chain) {
+        for (LmSdpField* pField = &chain; !isChanged && pField != nullptr; pField = pField->m_Next.untested())
         {
-            if (pField->getChangedFlag())
-            {
-                return true;
-            }
+            isChanged = pField->getChangedFlag();
         }
-    }
-    return false;
+    });
+    return isChanged;
 }
 
 void LmSdpDescription::addNext(LmHandle<LmSdpDescription> hNext)

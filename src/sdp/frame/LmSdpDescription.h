@@ -8,6 +8,7 @@
 #include "core/ThreadHeapOperators.h"
 #include "sdp/LmSdpExport.h"
 #include "sdp/frame/LmSdpField.h"
+#include "sdp/frame/LmSdpSlots.h"
 
 #include <array>
 #include <cstdint>
@@ -80,7 +81,7 @@ public:
 
 protected:
     /// One slot for each letter.
-    static constexpr unsigned int sm_SlotCount = 15;
+    static constexpr unsigned int sm_SlotCount = LmSdpSlots::sm_Count;
 
     /// The letters a to z among the field tokens, one bit each.
     static constexpr std::uint32_t sLettersOf(std::string_view fieldTokens)
@@ -123,7 +124,7 @@ private:
     static const std::array<unsigned int, 26> sm_FieldOrder;
     static LmSdpRegistry<LmSdpDescription>* sm_ConstructorMap;
 
-    std::array<LmHandle<LmSdpField>, sm_SlotCount> m_Fields;
+    LmSdpSlots m_Fields;
     LmString m_Token;
     LmString m_FieldTokens;
     LmHandle<LmSdpDescription> m_Next;
