@@ -11,6 +11,8 @@
 namespace
 {
 
+constexpr char s_RtpMap[] = "rtpmap";
+
 std::string_view firstLine(std::string_view text)
 {
     const char* const end = lmFindLineEnd(text.data(), text.data() + text.size());
@@ -28,9 +30,14 @@ bool is(std::string_view name, const char (&word)[Size])
 
 LmHandle<LmSdpAttribute> lmSdpAttributeValue(std::string_view name, std::string_view text)
 {
-    if (is(name, "rtpmap"))
+    return lmSdpAttributeValueOfLine(name, is(name, s_RtpMap) ? firstLine(text) : text);
+}
+
+LmHandle<LmSdpAttribute> lmSdpAttributeValueOfLine(std::string_view name, std::string_view text)
+{
+    if (is(name, s_RtpMap))
     {
-        return new LmSdpRtpAttribute(firstLine(text));
+        return new LmSdpRtpAttribute(text);
     }
     if (is(name, "crypto"))
     {

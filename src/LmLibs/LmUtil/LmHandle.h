@@ -5,6 +5,7 @@
 #include "core/Assertion.h"
 
 #include <cstddef>
+#include <utility>
 
 /// A counted reference to a `T`, one pointer wide; `T` derives from LmObject. The last handle ends its object.
 ///
@@ -36,6 +37,18 @@ public:
     {
     }
 
+    /// The same for a handle that is not needed any more: it gives its reference away, or keeps it where its object is
+    /// no `T`.
+    template <typename U>
+    LmHandle(LmHandle<U>&& other) noexcept
+        : LmHandleBase(LmTypeTest<T>::sCast(other.object()) != nullptr ? other.object() : nullptr, Adopt())
+    {
+        if (!isNull())
+        {
+            other.forget();
+        }
+    }
+
     ///@{
     /// Takes what the constructor of that kind would take, and gives the present object up.
     LmHandle& operator=(const LmHandle&) noexcept = default;
@@ -51,6 +64,12 @@ public:
     LmHandle& operator=(const LmHandle<U>& other) noexcept
     {
         return *this = LmHandle(other); // NOLINT(misc-unconventional-assign-operator): this is *this
+    }
+
+    template <typename U>
+    LmHandle& operator=(LmHandle<U>&& other) noexcept
+    {
+        return *this = LmHandle(std::move(other)); // NOLINT(misc-unconventional-assign-operator): this is *this
     }
     ///@}
 

@@ -19,7 +19,7 @@ void LmLine::mark(const char* begin, const char* end)
     {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(place));
         controls = maskOf(lmHitsUpTo(bytes, '\r'));
-        if (colon == nullptr)
+        if (__builtin_expect(colon == nullptr, 1))
         {
             const unsigned int colons = maskOf(lmHitsOf(bytes, ':')) & ~controls & (controls - 1);
             colon = colons != 0 ? place + __builtin_ctz(colons) : nullptr;

@@ -53,8 +53,9 @@ private:
         {
             return end;
         }
-        const bool isPair = *m_End == '\r' && m_End + 1 != end && m_End[1] == '\n';
-        return m_End + (isPair ? 2 : 1);
+        const char* const next = m_End + 1;
+        const bool isPair = next != end && *m_End == '\r' && *next == '\n';
+        return next + (isPair ? 1 : 0);
     }
 
     /// Finds in one pass over the range what there is to know of its first line.

@@ -46,6 +46,17 @@ void LmObject::display(LmOutputStream& out, bool) const
     out << (readable != nullptr ? readable.get() : name);
 }
 
+/// The way of an object that seemed to have several owners; the others may give it up meanwhile.
+unsigned long LmObject::releaseShared(bool destroyAtZero)
+{
+    const unsigned long count = m_Count.decrement();
+    if (count == 0 && destroyAtZero)
+    {
+        delete this;
+    }
+    return count;
+}
+
 long LmObject::sLiveObjects()
 {
     return s_Live.load();

@@ -58,12 +58,15 @@ public:
     /// false. For handles only.
     virtual unsigned long Release(bool destroyAtZero = true)
     {
-        const unsigned long count = m_Count.decrement();
-        if (__builtin_expect(count == 0 && destroyAtZero, 1))
+        if (__builtin_expect(!m_Count.dropOnlyOwner(), 0))
+        {
+            return releaseShared(destroyAtZero);
+        }
+        if (__builtin_expect(destroyAtZero, 1))
         {
             delete this;
         }
-        return count;
+        return 0;
     }
 
     /// True when the caller, who holds a handle, holds the only one.
@@ -92,6 +95,7 @@ protected:
     explicit constexpr LmObject(LmReferenceCount::Immortal immortal) noexcept : m_Count(immortal) {}
 
 private:
+    unsigned long releaseShared(bool destroyAtZero);
     static void sCountLive(long change);
 
     LmReferenceCount m_Count;

@@ -46,12 +46,11 @@ public:
     /// Gives the count after the call. What other owners did to the object is visible to the caller who gets 0.
     std::uint32_t decrement() noexcept
     {
-        const std::uint32_t count = m_Count.load(std::memory_order_acquire);
-        if (count == 1)
+        if (dropOnlyOwner())
         {
-            m_Count.store(0, std::memory_order_relaxed);
             return 0;
         }
+        const std::uint32_t count = m_Count.load(std::memory_order_acquire);
         if (count == sm_Immortal || count == 0)
         {
             return count;
@@ -64,17 +63,22 @@ public:
         return m_Count.fetch_sub(1, std::memory_order_acq_rel) - 1;
     }
 
-    /// The same, but tells only whether the count is 0 now. The ways of an only owner and of an immortal object are in
-    /// place, and the third is not.
-    bool decrementsToZero() noexcept
+    /// The same where the caller is the only owner; otherwise it changes nothing and gives false.
+    bool dropOnlyOwner() noexcept
     {
-        const std::uint32_t count = m_Count.load(std::memory_order_acquire);
-        if (count == 1)
+        const bool isOnly = isOne();
+        if (isOnly)
         {
             m_Count.store(0, std::memory_order_relaxed);
-            return true;
         }
-        return count != sm_Immortal && decrementShared() == 0;
+        return isOnly;
+    }
+
+    /// As `decrement`, but tells only whether the count is 0 now. The ways of an only owner and of an immortal object
+    /// are in place, and the third is not.
+    bool decrementsToZero() noexcept
+    {
+        return dropOnlyOwner() || (m_Count.load(std::memory_order_relaxed) != sm_Immortal && decrementShared() == 0);
     }
 
     /// True when the caller, who holds a reference, holds the only one.

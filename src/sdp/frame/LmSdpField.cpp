@@ -18,7 +18,7 @@ void lmSdpTakeLongToken(LmInputStream& in, LmSdpTokenBuffer& token)
     in.read();
 }
 
-LmSdpField::~LmSdpField()
+void LmSdpField::releaseChain() noexcept
 {
     lmReleaseChain(m_Next, [](LmSdpField& field) -> LmHandle<LmSdpField>& { return field.m_Next; });
 }

@@ -32,7 +32,13 @@ public:
 
     /// `token` is the line's letter. A null pointer gives an empty token.
     explicit LmSdpField(const char* token) : m_Token(lmSdpToken(token)) {}
-    ~LmSdpField() override;
+    ~LmSdpField() override
+    {
+        if (m_Next)
+        {
+            releaseChain();
+        }
+    }
 
     LmSdpField(const LmSdpField&) = delete;
     LmSdpField& operator=(const LmSdpField&) = delete;
@@ -83,6 +89,8 @@ private:
     static LmHandle<LmSdpField> sReadValue(const char* token, LmInputStream& in);
     static LmHandle<LmSdpField> sReadLineTraced(LmInputStream& in, const Quorvex::Logger* pLogger);
     ///@}
+
+    void releaseChain() noexcept;
 
     /// Appends at the tail of the chain that begins here.
     void addNext(LmHandle<LmSdpField>&& hNext) { last()->m_Next = std::move(hNext); }

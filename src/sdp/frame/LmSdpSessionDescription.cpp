@@ -76,11 +76,11 @@ void LmSdpSessionDescription::add(LmHandle<LmSdpDescription>&& hDescription)
     }
     else if (isTime)
     {
-        m_TimeDescription = hDescription;
+        m_TimeDescription = std::move(hDescription);
     }
     else
     {
-        m_MediaDescription = hDescription;
+        m_MediaDescription = std::move(hDescription);
     }
 }
 

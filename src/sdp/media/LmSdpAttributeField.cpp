@@ -61,7 +61,7 @@ void LmSdpAttributeField::parse(LmInputStream& in)
     m_Name = lmSdpText(line.inFrontOfColon());
     if (line.hasColon())
     {
-        m_Attribute = lmSdpAttributeValue(line.inFrontOfColon(), line.behindColon());
+        m_Attribute = lmSdpAttributeValueOfLine(line.inFrontOfColon(), line.behindColon());
     }
 }
 
