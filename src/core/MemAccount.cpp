@@ -70,4 +70,11 @@ MemAccount::Usage MemAccount::usage(const char* account)
     return found == nullptr ? Usage() : ThreadHeap::usage(*found);
 }
 
+MemAccount& MemAccountByName::find()
+{
+    MemAccount& account = MemAccount::get(m_Name);
+    m_pAccount.store(&account, std::memory_order_release);
+    return account;
+}
+
 } // namespace Quorvex

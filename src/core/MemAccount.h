@@ -89,9 +89,9 @@ private:
     static MemAccount* sFind(const char* account);
 
     ///@{
-    /// The way of blocks that do not come from the thread's own heap.
-    __attribute__((cold)) void* allocateLarge(std::size_t size);
-    __attribute__((cold)) void deallocateLarge(Header* header) noexcept;
+    /// The way of blocks that are large, or for which the thread has nothing at hand.
+    __attribute__((cold)) void* allocateSlowly(std::size_t size);
+    __attribute__((cold)) void deallocateSlowly(Header* header) noexcept;
     ///@}
 
     static std::atomic<MemAccount*> sm_First;
@@ -100,6 +100,30 @@ private:
     const unsigned int m_Index;
     MemAccount* const m_Next;
     Figures m_Ended; ///< of threads that have ended, and of blocks counted without a thread's heap
+};
+
+/// An account that is looked up by its name at first use; it needs no constructor to run before that.
+class HARNWICK_CORE_API MemAccountByName
+{
+public:
+    /// `name` is a string literal.
+    explicit constexpr MemAccountByName(const char* name) : m_Name(name) {}
+
+    MemAccountByName(const MemAccountByName&) = delete;
+    MemAccountByName& operator=(const MemAccountByName&) = delete;
+
+    /// Safe from several threads. @throws std::bad_alloc when the account can't be made
+    MemAccount& get()
+    {
+        MemAccount* const pAccount = m_pAccount.load(std::memory_order_acquire);
+        return __builtin_expect(pAccount != nullptr, 1) ? *pAccount : find();
+    }
+
+private:
+    __attribute__((cold)) MemAccount& find();
+
+    const char* m_Name;
+    std::atomic<MemAccount*> m_pAccount{nullptr};
 };
 
 } // namespace Quorvex

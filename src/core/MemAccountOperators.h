@@ -27,8 +27,8 @@
     static void operator delete(void*, void*) noexcept {}                                                              \
     static Quorvex::MemAccount& memAccount()                                                                           \
     {                                                                                                                  \
-        static Quorvex::MemAccount& s_Account = Quorvex::MemAccount::get(getMemAccountName());                         \
-        return s_Account;                                                                                              \
+        static Quorvex::MemAccountByName s_Account(#Class);                                                            \
+        return s_Account.get();                                                                                        \
     }
 
 /// For a class whose objects are given back without their size.

@@ -265,12 +265,26 @@ __attribute__((noinline, cold)) void ThreadHeap::sDeallocateSlowly(void* block, 
     ::operator delete(block);
 }
 
-__attribute__((noinline, cold)) void ThreadHeap::sCountSlowly(MemAccount& account,
-                                                              void (MemAccount::Figures::*add)(std::uint64_t),
-                                                              std::size_t bytes) noexcept
+void ThreadHeap::sCountTaken(MemAccount& account, std::size_t bytes) noexcept
 {
+    if (MemAccount::Figures* const figures = ownFigures(account))
+    {
+        figures->take(bytes);
+        return;
+    }
     const std::lock_guard<std::mutex> lock(immortal<Heaps>().mutex);
-    (account.m_Ended.*add)(bytes);
+    account.m_Ended.take(bytes);
+}
+
+void ThreadHeap::sCountGivenBack(MemAccount& account, std::size_t bytes) noexcept
+{
+    if (MemAccount::Figures* const figures = ownFigures(account))
+    {
+        figures->giveBack(bytes);
+        return;
+    }
+    const std::lock_guard<std::mutex> lock(immortal<Heaps>().mutex);
+    account.m_Ended.giveBack(bytes);
 }
 
 MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
@@ -286,23 +300,25 @@ MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
     return sum.usage();
 }
 
-void* MemAccount::allocateLarge(std::size_t size)
+void* MemAccount::allocateSlowly(std::size_t size)
 {
-    constexpr std::size_t inFront = ThreadHeap::sm_Offset + sizeof(Header);
-    if (size + inFront < size)
+    // The header of a large block stands right in front of an address that is aligned for anything.
+    const std::size_t inFront = ThreadHeap::isSmall(size, sizeof(Header)) ? 0 : ThreadHeap::sm_Offset;
+    if (size + inFront + sizeof(Header) < size)
     {
         throw std::bad_alloc();
     }
-    auto* const block = static_cast<unsigned char*>(ThreadHeap::allocate(size + inFront));
-    ThreadHeap::countTaken(*this, size);
-    return new (block + ThreadHeap::sm_Offset) Header{size} + 1;
+    auto* const block = static_cast<unsigned char*>(ThreadHeap::allocate(size + inFront + sizeof(Header)));
+    ThreadHeap::sCountTaken(*this, size);
+    return new (block + inFront) Header{size} + 1;
 }
 
-void MemAccount::deallocateLarge(Header* header) noexcept
+void MemAccount::deallocateSlowly(Header* header) noexcept
 {
-    ThreadHeap::countGivenBack(*this, header->size);
-    ThreadHeap::deallocate(reinterpret_cast<unsigned char*>(header) - ThreadHeap::sm_Offset,
-                           header->size + ThreadHeap::sm_Offset + sizeof(Header));
+    const std::size_t size = header->size;
+    const std::size_t inFront = ThreadHeap::isSmall(size, sizeof(Header)) ? 0 : ThreadHeap::sm_Offset;
+    ThreadHeap::sCountGivenBack(*this, size);
+    ThreadHeap::deallocate(reinterpret_cast<unsigned char*>(header) - inFront, size + inFront + sizeof(Header));
 }
 
 } // namespace Quorvex

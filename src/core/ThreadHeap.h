@@ -42,52 +42,47 @@ public:
     /// @throws std::bad_alloc
     static void* allocate(std::size_t size)
     {
-        Heap* const heap = st_Heap;
-        if (__builtin_expect(isSmall(size) && heap != nullptr, 1))
-        {
-            List& list = heap->current[classOf(size)];
-            if (__builtin_expect(list.head != nullptr, 1))
-            {
-                return list.pop();
-            }
-        }
-        return sAllocateSlowly(size);
+        void* const block = allocateAtHand(size);
+        return __builtin_expect(block != nullptr, 1) ? block : sAllocateSlowly(size);
     }
 
     /// `size` is the number that `block` was taken with.
     static void deallocate(void* block, std::size_t size) noexcept
     {
-        Heap* const heap = st_Heap;
-        if (__builtin_expect(isSmall(size) && heap != nullptr, 1))
+        if (__builtin_expect(!deallocateAtHand(block, size), 0))
         {
-            List& list = heap->current[classOf(size)];
-            if (__builtin_expect(list.room != 0, 1))
-            {
-                list.push(static_cast<Block*>(block));
-                return;
-            }
+            sDeallocateSlowly(block, size);
         }
-        sDeallocateSlowly(block, size);
     }
 
-    /// Counts a block that an account has taken, or has given back.
-    static void countTaken(MemAccount& account, std::size_t bytes) noexcept
+    /// The same where the thread has a block at hand; a null pointer otherwise. A caller that leaves all other ways to
+    /// one call at its end needs no registers for them.
+    static void* allocateAtHand(std::size_t size) noexcept
     {
-        if (MemAccount::Figures* const figures = ownFigures(account))
+        Heap* const heap = st_Heap;
+        if (__builtin_expect(!isSmall(size) || heap == nullptr, 0))
         {
-            figures->take(bytes);
-            return;
+            return nullptr;
         }
-        sCountSlowly(account, &MemAccount::Figures::take, bytes);
+        List& list = heap->current[classOf(size)];
+        return __builtin_expect(list.head != nullptr, 1) ? list.pop() : nullptr;
     }
-    static void countGivenBack(MemAccount& account, std::size_t bytes) noexcept
+
+    /// The same where the thread's list has room; false, and nothing done, otherwise.
+    static bool deallocateAtHand(void* block, std::size_t size) noexcept
     {
-        if (MemAccount::Figures* const figures = ownFigures(account))
+        Heap* const heap = st_Heap;
+        if (__builtin_expect(!isSmall(size) || heap == nullptr, 0))
         {
-            figures->giveBack(bytes);
-            return;
+            return false;
         }
-        sCountSlowly(account, &MemAccount::Figures::giveBack, bytes);
+        List& list = heap->current[classOf(size)];
+        if (__builtin_expect(list.room == 0, 0))
+        {
+            return false;
+        }
+        list.push(static_cast<Block*>(block));
+        return true;
     }
 
     /// What all threads together have counted on an account.
@@ -100,6 +95,8 @@ public:
     }
 
 private:
+    friend class MemAccount;
+
     static constexpr bool sm_SystemBlocks = QUORVEX_SANITIZED != 0;
     static constexpr std::size_t sm_Granule = 16;
     static constexpr std::size_t sm_Classes = sm_LargestBlock / sm_Granule + 1;
@@ -161,6 +158,10 @@ private:
         return __builtin_expect(kept, 1) ? &heap->figures[account.m_Index] : nullptr;
     }
 
+    /// Counts a block that an account has taken, or has given back.
+    static void sCountTaken(MemAccount& account, std::size_t bytes) noexcept;
+    static void sCountGivenBack(MemAccount& account, std::size_t bytes) noexcept;
+
     static constexpr std::size_t classOf(std::size_t size) { return (size + sm_Granule - 1) / sm_Granule; }
 
     /// A block of no size takes as much as one of the smallest.
@@ -172,8 +173,6 @@ private:
     // Told to be cold here too, so that callers lay these ways out behind all others.
     __attribute__((cold)) static void* sAllocateSlowly(std::size_t size);
     __attribute__((cold)) static void sDeallocateSlowly(void* block, std::size_t size) noexcept;
-    __attribute__((cold)) static void sCountSlowly(MemAccount& account, void (MemAccount::Figures::*add)(std::uint64_t),
-                             std::size_t bytes) noexcept;
     static Heap* sMakeHeap();
 
     /// The calling thread's heap; null before its first block and after the thread's end. `__thread`, since it never
@@ -191,13 +190,18 @@ struct MemAccount::Header
 
 inline void* MemAccount::allocate(std::size_t size)
 {
-    if (__builtin_expect(!ThreadHeap::isSmall(size, sizeof(Header)), 0))
+    if (__builtin_expect(ThreadHeap::isSmall(size, sizeof(Header)), 1))
     {
-        return allocateLarge(size);
+        if (MemAccount::Figures* const figures = ThreadHeap::ownFigures(*this))
+        {
+            if (void* const block = ThreadHeap::allocateAtHand(size + sizeof(Header)))
+            {
+                figures->take(size);
+                return new (block) Header{size} + 1;
+            }
+        }
     }
-    void* const block = ThreadHeap::allocate(size + sizeof(Header));
-    ThreadHeap::countTaken(*this, size);
-    return new (block) Header{size} + 1;
+    return allocateSlowly(size);
 }
 
 inline void MemAccount::deallocate(void* block) noexcept
@@ -208,13 +212,16 @@ inline void MemAccount::deallocate(void* block) noexcept
     }
     Header* const header = static_cast<Header*>(block) - 1;
     const std::size_t size = header->size;
-    if (__builtin_expect(!ThreadHeap::isSmall(size, sizeof(Header)), 0))
+    if (__builtin_expect(ThreadHeap::isSmall(size, sizeof(Header)), 1))
     {
-        deallocateLarge(header);
-        return;
+        MemAccount::Figures* const figures = ThreadHeap::ownFigures(*this);
+        if (figures != nullptr && ThreadHeap::deallocateAtHand(header, size + sizeof(Header)))
+        {
+            figures->giveBack(size);
+            return;
+        }
     }
-    ThreadHeap::countGivenBack(*this, size);
-    ThreadHeap::deallocate(header, size + sizeof(Header));
+    deallocateSlowly(header);
 }
 
 } // namespace Quorvex

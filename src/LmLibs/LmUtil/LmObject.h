@@ -91,6 +91,14 @@ protected:
         return m_Count.isZero();
     }
 
+    /// For an object that is made with an owner, who counts nothing.
+    explicit LmObject(LmReferenceCount::Owned owned) noexcept : m_Count(owned)
+    {
+#ifdef LMUTIL_COUNT_OBJECTS
+        sCountLive(1);
+#endif
+    }
+
     /// For objects of static lifetime, which handles may share without end.
     explicit constexpr LmObject(LmReferenceCount::Immortal immortal) noexcept : m_Count(immortal) {}
 

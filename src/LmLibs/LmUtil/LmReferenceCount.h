@@ -21,6 +21,12 @@ public:
     };
     explicit constexpr LmReferenceCount(Immortal) : m_Count(sm_Immortal) {}
 
+    /// The count of a new object that has an owner already.
+    struct Owned
+    {
+    };
+    explicit constexpr LmReferenceCount(Owned) : m_Count(1) {}
+
     /// Gives the count after the call.
     std::uint32_t increment() noexcept
     {

@@ -17,6 +17,7 @@ namespace
 constexpr std::size_t s_Granule = 16;
 constexpr std::size_t s_RoomInFront = sizeof(std::uint32_t);
 constexpr std::size_t s_LargestRoom = std::numeric_limits<std::uint32_t>::max() / 2;
+constexpr std::size_t s_LongestShort = 32; ///< what is copied in place
 constexpr std::size_t s_OutsideHead = 8; ///< keeps the room number of an outside text aligned
 
 constexpr std::size_t innerBytes(std::size_t room)
@@ -24,33 +25,51 @@ constexpr std::size_t innerBytes(std::size_t room)
     return sizeof(LmStringBuffer) + s_RoomInFront + room + 1;
 }
 
-/// Copies front and back of so many bytes, which may overlap.
-template <typename Word>
-void copyEnds(char* to, std::string_view text)
+/// The room of a block that is filled up to a multiple of the granule.
+constexpr std::size_t roundedRoom(std::size_t room)
 {
-    Word front;
-    Word back;
-    const std::size_t behind = text.size() - sizeof(Word);
-    std::memcpy(&front, text.data(), sizeof front);
-    std::memcpy(&back, text.data() + behind, sizeof back);
-    std::memcpy(to, &front, sizeof front);
-    std::memcpy(to + behind, &back, sizeof back);
+    return ((innerBytes(room) + s_Granule - 1) & ~(s_Granule - 1)) - innerBytes(0);
+}
+
+/// Copies front and back of so many bytes, which may overlap.
+template <std::size_t Bytes>
+inline void copyEnds(char* to, std::string_view text)
+{
+    char front[Bytes];
+    char back[Bytes];
+    const std::size_t behind = text.size() - Bytes;
+    std::memcpy(front, text.data(), Bytes);
+    std::memcpy(back, text.data() + behind, Bytes);
+    std::memcpy(to, front, Bytes);
+    std::memcpy(to + behind, back, Bytes);
 }
 
 /// Copies a text without a call where it is as short as most are.
 inline void copyShort(char* to, std::string_view text)
 {
-    if (text.size() >= 8 && text.size() <= 16)
+    if (text.size() > s_LongestShort)
     {
-        copyEnds<std::uint64_t>(to, text);
+        std::memcpy(to, text.data(), text.size());
     }
-    else if (text.size() >= 4 && text.size() < 8)
+    else if (text.size() >= 16)
     {
-        copyEnds<std::uint32_t>(to, text);
+        copyEnds<16>(to, text);
     }
-    else
+    else if (text.size() >= 8)
     {
-        text.copy(to, text.size());
+        copyEnds<8>(to, text);
+    }
+    else if (text.size() >= 4)
+    {
+        copyEnds<4>(to, text);
+    }
+    else if (text.size() >= 2)
+    {
+        copyEnds<2>(to, text);
+    }
+    else if (!text.empty())
+    {
+        *to = text.front();
     }
 }
 
@@ -99,10 +118,17 @@ inline LmStringBuffer::LmStringBuffer(Room room) noexcept : m_Text(sInnerText(th
     sRoom(m_Text) = room;
 }
 
+/// The sizes are those that `sMake` gives.
+inline LmStringBuffer::LmStringBuffer(LmReferenceCount::Owned owned, Room room, Room length) noexcept
+    : LmObject(owned), m_Length(length), m_Text(sInnerText(this))
+{
+    sRoom(m_Text) = room;
+}
+
 /// A buffer with room for a text of that length, its block filled up to a multiple of the granule.
 inline LmStringBuffer* LmStringBuffer::sMake(std::size_t room)
 {
-    const std::size_t rounded = ((innerBytes(room) + s_Granule - 1) & ~(s_Granule - 1)) - innerBytes(0);
+    const std::size_t rounded = roundedRoom(room);
     if (__builtin_expect(rounded > s_LargestRoom, 0))
     {
         throw std::bad_alloc();
@@ -130,7 +156,26 @@ LmStringBuffer* LmStringBuffer::sCreate(std::string_view text, unsigned int capa
     return sMakeWith(text, std::max<std::size_t>(text.size(), capacity));
 }
 
+/// A short text for which the thread has a block at hand takes no call at all.
 LmStringBuffer* LmStringBuffer::sCreateOwned(std::string_view text)
+{
+    if (__builtin_expect(text.size() <= s_LongestShort, 1))
+    {
+        const std::size_t room = roundedRoom(text.size());
+        if (void* const block = ThreadHeap::allocateAtHand(innerBytes(room)))
+        {
+            auto* const pBuffer = new (block) LmStringBuffer(LmReferenceCount::Owned(), static_cast<Room>(room),
+                                                             static_cast<Room>(text.size()));
+            char* const inner = sInnerText(block);
+            copyShort(inner, text);
+            inner[text.size()] = '\0';
+            return pBuffer;
+        }
+    }
+    return sCreateOwnedSlowly(text);
+}
+
+__attribute__((noinline)) LmStringBuffer* LmStringBuffer::sCreateOwnedSlowly(std::string_view text)
 {
     LmStringBuffer* const pBuffer = sMakeWith(text, text.size());
     pBuffer->LmObject::AddRef();

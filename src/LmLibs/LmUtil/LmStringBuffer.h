@@ -97,6 +97,7 @@ private:
     using Room = std::uint32_t;
 
     explicit LmStringBuffer(Room room) noexcept;
+    LmStringBuffer(LmReferenceCount::Owned owned, Room room, Room length) noexcept;
     LmStringBuffer(LmReferenceCount::Immortal immortal, char* text, Room length) noexcept;
     explicit constexpr LmStringBuffer(char* emptyText) noexcept
         : LmObject(LmReferenceCount::Immortal()), m_Length(0), m_Text(emptyText)
@@ -109,6 +110,7 @@ private:
     static void operator delete(void*, void*) noexcept {}
 
     static LmStringBuffer* sMake(std::size_t room);
+    static LmStringBuffer* sCreateOwnedSlowly(std::string_view text);
     static LmStringBuffer* sMakeWith(std::string_view text, std::size_t room);
     static void sDestroy(LmStringBuffer* pBuffer) noexcept;
     static char* sInnerText(void* block) noexcept;
