@@ -57,13 +57,15 @@ inline const char* lmFindFirst(const char* text, const char* end, [[maybe_unused
 
     if (end - text >= 16)
     {
-        for (; end - text > 16; text += 16)
+        do
         {
-            if (const unsigned int mask = maskOf(blockAt(text)); mask != 0)
+            const unsigned int mask = maskOf(blockAt(text));
+            if (__builtin_expect(mask != 0, 1))
             {
                 return text + __builtin_ctz(mask);
             }
-        }
+            text += 16;
+        } while (end - text >= 16);
         const unsigned int mask = maskOf(blockAt(end - 16));
         return mask != 0 ? end - 16 + __builtin_ctz(mask) : end;
     }
@@ -185,19 +187,32 @@ inline std::string_view lmUpToNul(std::string_view text)
 /// of range, 0 where there is no number.
 LMUTIL_API long lmAtol(std::string_view text);
 
+/// The number that a text begins with, and of how many digits: none where it begins otherwise, or with more digits
+/// than surely fit.
+struct LmLeadingNumber
+{
+    explicit LmLeadingNumber(std::string_view text)
+    {
+        constexpr std::size_t safeDigits = 9;
+        while (digits < text.size() && lmIsDigit(text[digits]))
+        {
+            if (__builtin_expect(digits == safeDigits, 0))
+            {
+                digits = 0;
+                return;
+            }
+            value = value * 10 + (text[digits] - '0');
+            ++digits;
+        }
+    }
+
+    int value = 0;
+    std::size_t digits = 0;
+};
+
 /// What `atoi` gives for the text: the low bits of `lmAtol`.
 inline int lmAtoi(std::string_view text)
 {
-    constexpr std::size_t safeDigits = 9;
-    int number = 0;
-    std::size_t count = 0;
-    for (; count < text.size() && lmIsDigit(text[count]); ++count)
-    {
-        if (count == safeDigits)
-        {
-            return static_cast<int>(lmAtol(text));
-        }
-        number = number * 10 + (text[count] - '0');
-    }
-    return count == 0 && !text.empty() ? static_cast<int>(lmAtol(text)) : number;
+    const LmLeadingNumber number(text);
+    return number.digits != 0 || text.empty() ? number.value : static_cast<int>(lmAtol(text));
 }

@@ -8,7 +8,6 @@ void LmLine::mark(const char* begin, const char* end)
 {
     const char* place = begin;
     const char* colon = nullptr;
-    bool hasNul = false;
     unsigned int controls = 0;
 #ifdef __SSE2__
     // Line ends show among the control characters, of which a line has hardly any others: up to the first of those,
@@ -26,23 +25,31 @@ void LmLine::mark(const char* begin, const char* end)
         }
     }
 #endif
-    const auto findNext = [end, &colon](const char* from) {
-        const auto isControl = [](int c) { return c <= '\r'; };
-        const auto isControlOrColon = [](int c) { return c <= '\r' || c == ':'; };
-        return colon != nullptr
-                   ? lmFindFirst(from, end, isControl, LM_HITS(lmHitsUpTo(bytes, '\r')))
-                   : lmFindFirst(from, end, isControlOrColon,
-                                 LM_HITS(_mm_or_si128(lmHitsUpTo(bytes, '\r'), lmHitsOf(bytes, ':'))));
-    };
-    for (place = controls != 0 ? place : findNext(place); place != end && !lmIsLineEnd(*place); place = findNext(place + 1))
-    {
-        colon = *place == ':' && colon == nullptr ? place : colon;
-        hasNul |= *place == '\0';
-    }
     m_Begin = begin;
     m_End = place;
     m_Colon = colon;
-    m_HasNul = hasNul;
+    m_HasNul = false;
+    if (__builtin_expect(controls == 0 || !lmIsLineEnd(*place), 0))
+    {
+        markRest(end);
+    }
+}
+
+/// The same from m_End on, whatever the line has there.
+void LmLine::markRest(const char* end)
+{
+    const auto nextControlOrColon = [end](const char* from) {
+        return lmFindFirst(
+            from, end, [](int c) { return c <= '\r' || c == ':'; },
+            LM_HITS(_mm_or_si128(lmHitsUpTo(bytes, '\r'), lmHitsOf(bytes, ':'))));
+    };
+    const char* place = nextControlOrColon(m_End);
+    for (; place != end && !lmIsLineEnd(*place); place = nextControlOrColon(place + 1))
+    {
+        m_Colon = *place == ':' && m_Colon == nullptr ? place : m_Colon;
+        m_HasNul |= *place == '\0';
+    }
+    m_End = place;
 }
 
 void LmLine::copy(LmInputStream& in)

@@ -60,6 +60,7 @@ private:
 
     /// Finds in one pass over the range what there is to know of its first line.
     LMUTIL_API void mark(const char* begin, const char* end);
+    void markRest(const char* end);
     LMUTIL_API __attribute__((cold)) void copy(LmInputStream& in);
 
     std::unique_ptr<const std::string> m_Copy;

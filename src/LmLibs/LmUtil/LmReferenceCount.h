@@ -84,7 +84,13 @@ public:
     /// are in place, and the third is not.
     bool decrementsToZero() noexcept
     {
-        return dropOnlyOwner() || (m_Count.load(std::memory_order_relaxed) != sm_Immortal && decrementShared() == 0);
+        const std::uint32_t count = m_Count.load(std::memory_order_acquire);
+        if (count == 1)
+        {
+            m_Count.store(0, std::memory_order_relaxed);
+            return true;
+        }
+        return count != sm_Immortal && decrementShared() == 0;
     }
 
     /// True when the caller, who holds a reference, holds the only one.

@@ -69,7 +69,7 @@ struct Ends
 
     bool operator==(const Ends& other) const
     {
-        return front == other.front && back == other.back && size == other.size;
+        return ((front ^ other.front) | (back ^ other.back) | (size ^ other.size)) == 0;
     }
 
     std::uint64_t front;
@@ -109,17 +109,17 @@ public:
         {
             return lmSdpLetters[static_cast<unsigned char>(text.front())];
         }
-        if (text.size() <= Ends::sm_Whole)
+        if (text.size() > Ends::sm_Whole)
         {
-            const Ends ends(text);
-            const Entry* entry = firstOf(ends);
-            while (entry->pText != nullptr && !(entry->ends == ends))
-            {
-                ++entry;
-            }
+            return text.size() <= s_LongestWord ? findLong(text) : nullptr;
+        }
+        const Ends ends(text);
+        const Entry* const entry = firstOf(ends);
+        if (__builtin_expect(entry->ends == ends, 1))
+        {
             return entry->pText;
         }
-        return text.size() <= s_LongestWord ? findLong(text) : nullptr;
+        return entry->pText == nullptr ? nullptr : findBehind(entry, text);
     }
 
 private:
@@ -131,6 +131,17 @@ private:
         Ends ends{"  "};
         LmStringBuffer* pText = nullptr;
     };
+
+    /// The way of a text that is not in its own slot, while another is.
+    __attribute__((noinline)) static LmStringBuffer* findBehind(const Entry* entry, std::string_view text)
+    {
+        const Ends ends(text);
+        while (entry->pText != nullptr && !(entry->ends == ends))
+        {
+            ++entry;
+        }
+        return entry->pText;
+    }
 
     __attribute__((noinline)) LmStringBuffer* findLong(std::string_view text) const
     {
@@ -178,7 +189,7 @@ const bool s_Filled = (s_CommonTexts.fill(), true);
 
 } // namespace
 
-LmStringBuffer* lmSdpSharedText(std::string_view text) noexcept
+__attribute__((noinline)) LmStringBuffer* lmSdpSharedText(std::string_view text) noexcept
 {
     return s_CommonTexts.find(text);
 }

@@ -74,12 +74,15 @@ void LmSdpRtpAttribute::parse(LmInputStream& in)
 
 void LmSdpRtpAttribute::read(std::string_view line)
 {
-    const std::size_t blank = lmFindByte(line, ' ');
+    // The numbers nearly always are what stands in front of the blank, and behind the slash.
+    const LmLeadingNumber payloadType(line);
+    const bool isInFront = payloadType.digits < line.size() && line[payloadType.digits] == ' ';
+    const std::size_t blank = isInFront ? payloadType.digits : lmFindByte(line, ' ');
     if (blank == s_None || blank == 0)
     {
         LmSdpParseError::sThrow("RTP attribute payload type: Space not found or misplaced");
     }
-    setPayloadType(static_cast<unsigned int>(lmAtoi(line.substr(0, blank))));
+    setPayloadType(static_cast<unsigned int>(isInFront ? payloadType.value : lmAtoi(line.substr(0, blank))));
 
     const std::size_t slash = lmFindByte(line, '/', blank + 1);
     if (slash == s_None)
@@ -93,9 +96,11 @@ void LmSdpRtpAttribute::read(std::string_view line)
     {
         LmSdpParseError::sThrow("failed to parde SDP rtpmap attribute : no clock rate found");
     }
-    setClockRate(static_cast<unsigned int>(lmAtoi(rest)));
+    const LmLeadingNumber clockRate(rest);
+    const bool isWhole = clockRate.digits == rest.size();
+    setClockRate(static_cast<unsigned int>(isWhole ? clockRate.value : lmAtoi(rest)));
 
-    const std::size_t secondSlash = lmFindByte(rest, '/');
+    const std::size_t secondSlash = isWhole ? s_None : lmFindByte(rest, '/');
     const std::string_view third = secondSlash == s_None ? std::string_view() : rest.substr(secondSlash + 1);
     if (const int channels = lmAtoi(third); channels != 0)
     {
