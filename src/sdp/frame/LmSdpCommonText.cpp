@@ -14,8 +14,8 @@ namespace
 {
 
 constexpr const char* s_Words[] = {
-    // letters, a name that says nothing, and the letters of each kind of description
-    "a", "b", "c", "e", "i", "k", "m", "o", "p", "r", "s", "t", "u", "v", "z", "-", "vosiuepcbzka", "tr", "micbka",
+    // letters, and a name that says nothing
+    "a", "b", "c", "e", "i", "k", "m", "o", "p", "r", "s", "t", "u", "v", "z", "-",
     // network and address types, bandwidth types
     "IN", "IP4", "IP6", "0.0.0.0", "127.0.0.1", "AS", "CT", "TIAS", "RS", "RR",
     // key methods

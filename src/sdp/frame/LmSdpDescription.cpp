@@ -48,13 +48,18 @@ const std::array<unsigned int, 26> LmSdpDescription::sm_FieldOrder = {
     // n  o  p   q   r  s  t  u  v   w   x   y   z
     15, 3, 8, 15, 11, 4, 1, 6, 0, 15, 15, 15, 12};
 
-LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens)
-    : LmSdpDescription(token, fieldTokens, sLettersOf(lmViewOf(fieldTokens)))
+LmSdpDescription::FieldTokens::FieldTokens(const char* tokens)
+    : text(LmString::sShareImmortal(*LmStringBuffer::sCreateImmortal(tokens))), letters(sLettersOf(tokens))
 {
 }
 
-LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens, std::uint32_t letters)
-    : m_Token(lmSdpToken(token)), m_FieldTokens(lmSdpText(lmViewOf(fieldTokens))), m_Letters(letters)
+LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens)
+    : m_Token(lmSdpToken(token)), m_FieldTokens(fieldTokens), m_Letters(sLettersOf(m_FieldTokens.view()))
+{
+}
+
+LmSdpDescription::LmSdpDescription(const char* token, const FieldTokens& fieldTokens)
+    : m_Token(lmSdpToken(token)), m_FieldTokens(fieldTokens.text), m_Letters(fieldTokens.letters)
 {
 }
 

@@ -94,8 +94,17 @@ protected:
         return letters;
     }
 
-    /// For a class whose letters were made when it was compiled.
-    LmSdpDescription(const char* token, const char* fieldTokens, std::uint32_t letters);
+    /// The field tokens that all objects of a class share.
+    struct FieldTokens
+    {
+        explicit FieldTokens(const char* tokens);
+
+        const LmString text; ///< is not counted
+        const std::uint32_t letters;
+    };
+
+    /// What the public constructor does, for a class that has made its field tokens once.
+    LmSdpDescription(const char* token, const FieldTokens& fieldTokens);
 
     /// Writes the lines of the slots from `first` up to, but not including, `end`.
     void serializeSlots(LmOutputStream& out, unsigned int first, unsigned int end) const;

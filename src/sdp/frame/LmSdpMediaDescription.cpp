@@ -1,16 +1,13 @@
 #include "sdp/frame/LmSdpMediaDescription.h"
 
-#include <type_traits>
-
-namespace
+const LmSdpDescription::FieldTokens& LmSdpMediaDescription::sFieldTokens()
 {
-
-constexpr const char* s_FieldTokens = "micbka";
-
-} // namespace
+    static const FieldTokens s_Tokens("micbka");
+    return s_Tokens;
+}
 
 LmSdpMediaDescription::LmSdpMediaDescription()
-    : LmSdpDescription("m", s_FieldTokens, std::integral_constant<std::uint32_t, sLettersOf(s_FieldTokens)>::value)
+    : LmSdpDescription("m", sFieldTokens())
 {
 }
 

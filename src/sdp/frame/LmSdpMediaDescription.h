@@ -26,5 +26,6 @@ public:
     static LmSdpDescription* sConstruct();
 
 private:
+    static const FieldTokens& sFieldTokens();
     LmSdpMediaDescription();
 };

@@ -6,15 +6,12 @@
 #include "core/LogStatement.h"
 #include "core/TraceScope.h"
 
-#include <type_traits>
 #include <utility>
 
 namespace
 {
 
 Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpSessionDescription");
-
-constexpr const char* s_FieldTokens = "vosiuepcbzka";
 
 /// The time descriptions are written in front of this slot, that of `z=`.
 constexpr unsigned int s_SlotBehindTimes = 12;
@@ -26,8 +23,14 @@ bool isToken(const char* token, char letter)
 
 } // namespace
 
+const LmSdpDescription::FieldTokens& LmSdpSessionDescription::sFieldTokens()
+{
+    static const FieldTokens s_Tokens("vosiuepcbzka");
+    return s_Tokens;
+}
+
 LmSdpSessionDescription::LmSdpSessionDescription()
-    : LmSdpDescription("v", s_FieldTokens, std::integral_constant<std::uint32_t, sLettersOf(s_FieldTokens)>::value)
+    : LmSdpDescription("v", sFieldTokens())
 {
 }
 

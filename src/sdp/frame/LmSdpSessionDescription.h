@@ -38,6 +38,7 @@ public:
     static LmSdpDescription* sConstruct();
 
 private:
+    static const FieldTokens& sFieldTokens();
     friend class LmSdpMsg;
 
     LmSdpSessionDescription();

@@ -1,16 +1,13 @@
 #include "sdp/frame/LmSdpTimeDescription.h"
 
-#include <type_traits>
-
-namespace
+const LmSdpDescription::FieldTokens& LmSdpTimeDescription::sFieldTokens()
 {
-
-constexpr const char* s_FieldTokens = "tr";
-
-} // namespace
+    static const FieldTokens s_Tokens("tr");
+    return s_Tokens;
+}
 
 LmSdpTimeDescription::LmSdpTimeDescription()
-    : LmSdpDescription("t", s_FieldTokens, std::integral_constant<std::uint32_t, sLettersOf(s_FieldTokens)>::value)
+    : LmSdpDescription("t", sFieldTokens())
 {
 }
 

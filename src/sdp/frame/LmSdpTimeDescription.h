@@ -30,5 +30,6 @@ public:
     static LmSdpDescription* sConstruct();
 
 private:
+    static const FieldTokens& sFieldTokens();
     LmSdpTimeDescription();
 };
