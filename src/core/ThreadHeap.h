@@ -32,7 +32,7 @@ class HARNWICK_CORE_API ThreadHeap
 {
 public:
     /// Larger blocks come from the system.
-    static constexpr std::size_t sm_LargestBlock = 256;
+    static constexpr std::size_t sm_LargestBlock = 352;
 
     /// How far a small block lies behind an address that is aligned for anything.
     static constexpr std::size_t sm_Offset = 8;

@@ -88,7 +88,7 @@ TEST(MemAccount, RefusesASizeThatNoMemoryHas)
 TEST(MemAccount, GivesMemoryForAnyObject)
 {
     std::vector<std::size_t> misaligned;
-    for (const std::size_t size : {16u, 32u, 48u, 200u, 256u, 272u, 5000u})
+    for (const std::size_t size : {16u, 32u, 48u, 200u, 256u, 272u, 352u, 368u, 5000u})
     {
         void* const block = NoSizeMemAllocator::allocate(size, "test one");
         if (reinterpret_cast<std::uintptr_t>(block) % alignof(std::max_align_t) != 0)

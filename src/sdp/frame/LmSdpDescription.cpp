@@ -135,17 +135,20 @@ __attribute__((always_inline)) inline void LmSdpDescription::file(LmHandle<LmSdp
     {
         LmException::sThrow("field doesn't belong in this description type LmSdpDescription::addField()");
     }
-    LmSdpField* const pFirst = m_Fields.first(slot);
-    if (pFirst == nullptr)
+    LmSdpSlots::Chain* const pChain = m_Fields.chain(slot);
+    if (pChain == nullptr)
     {
         m_Fields.take(slot, std::move(hField));
         return;
     }
-    if (pField->last() == pFirst->last())
+    LmSdpField* const pLast = pChain->pLast->last();
+    LmSdpField* const pAddedLast = pField->last();
+    if (pAddedLast == pLast)
     {
         LmException::sThrow("field is already in this description LmSdpDescription::addField()");
     }
-    pFirst->addNext(std::move(hField));
+    pLast->m_Next = std::move(hField);
+    pChain->pLast = pAddedLast;
 }
 
 void LmSdpDescription::addField(const LmHandle<LmSdpField>& hField)

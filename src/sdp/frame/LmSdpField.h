@@ -7,9 +7,8 @@
 #include "LmLibs/LmUtil/LmString.h"
 #include "core/ThreadHeapOperators.h"
 #include "sdp/LmSdpExport.h"
+#include "sdp/frame/LmSdpChangeable.h"
 #include "sdp/frame/LmSdpCommonText.h"
-
-#include <utility>
 
 namespace Quorvex
 {
@@ -24,7 +23,7 @@ class LmSdpRegistry;
 ///
 /// Lines of one letter that stand in one description are chained; each owns the next. A field, with its chain, is not
 /// safe for use by two threads at once.
-class LMSDP_API LmSdpField : public LmObject, public LmSerializable, public Quorvex::ThreadHeapOperators
+class LMSDP_API LmSdpField : public LmSdpChangeable, public LmSerializable, public Quorvex::ThreadHeapOperators
 {
 public:
     /// Makes a line of its own class.
@@ -51,7 +50,7 @@ public:
 
     /// True once a value was changed through a setter, and in some classes after `parse`. Nothing in the library
     /// clears it, and writing does not depend on it.
-    bool getChangedFlag() { return m_ChangedFlag; }
+    bool getChangedFlag() { return isChanged(); }
 
     /// Reads the value of the line; `in` stands behind the "=". The line end may be consumed or left.
     virtual void parse(LmInputStream& in) = 0;
@@ -76,8 +75,8 @@ protected:
 
     ///@{
     /// What `getChangedFlag` gives from now on.
-    void setChangedFlag() { m_ChangedFlag = true; }
-    void clearChangedFlag() { m_ChangedFlag = false; }
+    void setChangedFlag() { setChanged(true); }
+    void clearChangedFlag() { setChanged(false); }
     ///@}
 
 private:
@@ -92,26 +91,20 @@ private:
 
     void releaseChain() noexcept;
 
-    /// Appends at the tail of the chain that begins here.
-    void addNext(LmHandle<LmSdpField>&& hNext) { last()->m_Next = std::move(hNext); }
-
     /// The last link of the chain that begins here.
     LmSdpField* last()
     {
-        while (LmSdpField* const pNext = m_Tail->m_Next.untested())
+        LmSdpField* pLast = this;
+        while (LmSdpField* const pNext = pLast->m_Next.untested())
         {
-            m_Tail = pNext;
+            pLast = pNext;
         }
-        return m_Tail;
+        return pLast;
     }
 
     static LmSdpRegistry<LmSdpField>* sm_pConstructorMap;
     static Quorvex::FileLogger sm_Logger;
 
     LmString m_Token;
-    bool m_ChangedFlag = false;
     LmHandle<LmSdpField> m_Next;
-
-    /// Where the search for the last link begins: one that was the last when it was looked for.
-    LmSdpField* m_Tail = this;
 };

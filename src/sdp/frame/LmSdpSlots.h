@@ -16,6 +16,14 @@ public:
     /// One slot for each letter.
     static constexpr unsigned int sm_Count = 15;
 
+    struct Chain
+    {
+        LmHandle<LmSdpField> hFirst;
+
+        /// Where the search for the last line begins: one that was the last when it was looked for.
+        LmSdpField* pLast;
+    };
+
     // NOLINTNEXTLINE(modernize-use-equals-default): the union must not be made
     LmSdpSlots() noexcept {}
     LmSdpSlots(const LmSdpSlots&) = delete;
@@ -24,20 +32,24 @@ public:
     {
         for (std::uint32_t left = m_Taken; left != 0; left &= left - 1)
         {
-            m_Chains[lowestOf(left)].~LmHandle();
+            m_Chains[lowestOf(left)].~Chain();
         }
     }
 
-    /// The first line of a slot; null where it is empty.
+    ///@{
+    /// The chain of a slot, and its first line; null where the slot is empty.
+    Chain* chain(unsigned int slot) { return isTaken(slot) ? &m_Chains[slot] : nullptr; }
     LmSdpField* first(unsigned int slot) const
     {
-        return (m_Taken & bitOf(slot)) != 0 ? m_Chains[slot].untested() : nullptr;
+        return isTaken(slot) ? m_Chains[slot].hFirst.untested() : nullptr;
     }
+    ///@}
 
     /// Begins the chain of an empty slot.
     void take(unsigned int slot, LmHandle<LmSdpField>&& hFirst) noexcept
     {
-        new (&m_Chains[slot]) LmHandle<LmSdpField>(std::move(hFirst));
+        LmSdpField* const pFirst = hFirst.untested();
+        new (&m_Chains[slot]) Chain{std::move(hFirst), pFirst};
         m_Taken |= bitOf(slot);
     }
 
@@ -49,17 +61,19 @@ public:
         const std::uint32_t wanted = (bitOf(end) - 1) & ~(bitOf(begin) - 1);
         for (std::uint32_t left = m_Taken & wanted; left != 0; left &= left - 1)
         {
-            operation(*m_Chains[lowestOf(left)].untested());
+            operation(*m_Chains[lowestOf(left)].hFirst.untested());
         }
     }
 
 private:
+    bool isTaken(unsigned int slot) const { return (m_Taken & bitOf(slot)) != 0; }
+
     static constexpr std::uint32_t bitOf(unsigned int slot) { return std::uint32_t(1) << slot; }
     static unsigned int lowestOf(std::uint32_t slots) { return static_cast<unsigned int>(__builtin_ctz(slots)); }
 
     union
     {
-        LmHandle<LmSdpField> m_Chains[sm_Count];
+        Chain m_Chains[sm_Count];
     };
     std::uint32_t m_Taken = 0;
 };

@@ -22,7 +22,7 @@ void LmSdpAttribute::serialize(LmOutputStream& out) const
 
 LmString LmSdpAttribute::getValue() const
 {
-    if (m_ChangedFlag)
+    if (isChanged())
     {
         buildValue();
     }

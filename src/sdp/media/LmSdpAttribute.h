@@ -6,6 +6,7 @@
 #include "LmLibs/LmUtil/LmString.h"
 #include "core/MemAccountOperators.h"
 #include "sdp/LmSdpExport.h"
+#include "sdp/frame/LmSdpChangeable.h"
 
 #include <string_view>
 
@@ -13,7 +14,7 @@
 /// structure derive from this one and build the text from their members when it is asked for.
 ///
 /// Not safe for use by two threads at once.
-class LMSDP_API LmSdpAttribute : public LmObject, public LmSerializable
+class LMSDP_API LmSdpAttribute : public LmSdpChangeable, public LmSerializable
 {
 public:
     /// An empty value.
@@ -46,8 +47,8 @@ public:
 protected:
     ///@{
     /// Whether a member has changed since the text was built.
-    void setChangedFlag(bool changed) { m_ChangedFlag = changed; }
-    void clearChangedFlag() const { m_ChangedFlag = false; }
+    void setChangedFlag(bool changed) { setChanged(changed); }
+    void clearChangedFlag() const { setChanged(false); }
     ///@}
 
     /// The text of the members as they are now.
@@ -61,5 +62,4 @@ private:
     virtual void buildValue() const;
 
     mutable LmString m_Value;
-    mutable bool m_ChangedFlag = false;
 };
