@@ -16,7 +16,7 @@ namespace
 
 constexpr std::size_t s_Granule = 16;
 constexpr std::size_t s_RoomInFront = sizeof(std::uint32_t);
-constexpr std::size_t s_LargestRoom = std::numeric_limits<std::uint32_t>::max() / 2;
+constexpr std::size_t s_LargestRoom = std::numeric_limits<std::uint32_t>::max() / 2; ///< below the mark
 constexpr std::size_t s_LongestShort = 32; ///< what is copied in place
 constexpr std::size_t s_OutsideHead = 8; ///< keeps the room number of an outside text aligned
 
@@ -30,6 +30,9 @@ constexpr std::size_t roundedRoom(std::size_t room)
 {
     return ((innerBytes(room) + s_Granule - 1) & ~(s_Granule - 1)) - innerBytes(0);
 }
+
+static_assert(innerBytes(roundedRoom(0)) >= sizeof(LmStringBuffer) + 2 * s_RoomInFront + sizeof(char*),
+              "the pointer to an outside text must fit");
 
 /// Copies front and back of so many bytes, which may overlap.
 template <std::size_t Bytes>
@@ -75,14 +78,14 @@ inline void copyShort(char* to, std::string_view text)
 
 } // namespace
 
-/// The shared empty text, its room number in front of it as in a block of its own.
+/// The shared empty text, laid out as in any other block.
 struct LmEmptyText
 {
-    constexpr LmEmptyText() : m_Buffer(m_Text) {}
+    constexpr LmEmptyText() : m_Buffer(LmReferenceCount::Immortal()) {}
 
+    LmStringBuffer m_Buffer;
     std::uint32_t m_Room = 0;
     char m_Text[4] = {};
-    LmStringBuffer m_Buffer;
 };
 
 namespace
@@ -103,26 +106,27 @@ Undying s_Empty;
 
 LmStringBuffer* const LmStringBuffer::sm_pEmpty = &s_Empty.empty.m_Buffer;
 
-inline char* LmStringBuffer::sInnerText(void* block) noexcept
+inline std::size_t LmStringBuffer::sBlockBytes(void* block) noexcept
 {
-    return static_cast<char*>(block) + sizeof(LmStringBuffer) + s_RoomInFront;
+    return innerBytes(sRoom(block) & ~sm_Outside);
 }
 
-inline LmStringBuffer::Room& LmStringBuffer::sRoom(char* text) noexcept
+inline LmStringBuffer::LmStringBuffer(Room room) noexcept
 {
-    return *reinterpret_cast<Room*>(text - s_RoomInFront);
-}
-
-inline LmStringBuffer::LmStringBuffer(Room room) noexcept : m_Text(sInnerText(this))
-{
-    sRoom(m_Text) = room;
+    sRoom(this) = room;
 }
 
 /// The sizes are those that `sMake` gives.
 inline LmStringBuffer::LmStringBuffer(LmReferenceCount::Owned owned, Room room, Room length) noexcept
-    : LmObject(owned), m_Length(length), m_Text(sInnerText(this))
+    : LmObject(owned), m_Length(length)
 {
-    sRoom(m_Text) = room;
+    sRoom(this) = room;
+}
+
+inline LmStringBuffer::LmStringBuffer(LmReferenceCount::Immortal immortal, Room length) noexcept
+    : LmObject(immortal), m_Length(length)
+{
+    sRoom(this) = length;
 }
 
 /// A buffer with room for a text of that length, its block filled up to a multiple of the granule.
@@ -146,8 +150,8 @@ LmStringBuffer* LmStringBuffer::sCreate(const char* text, unsigned int length, u
 inline LmStringBuffer* LmStringBuffer::sMakeWith(std::string_view text, std::size_t room)
 {
     LmStringBuffer* const pBuffer = sMake(room);
-    copyShort(pBuffer->m_Text, text);
-    pBuffer->setText(pBuffer->m_Text, text.size());
+    copyShort(sInnerText(pBuffer), text);
+    pBuffer->setLength(text.size());
     return pBuffer;
 }
 
@@ -184,23 +188,19 @@ __attribute__((noinline)) LmStringBuffer* LmStringBuffer::sCreateOwnedSlowly(std
 
 LmStringBuffer* LmStringBuffer::sCreateImmortal(std::string_view text)
 {
-    const auto room = static_cast<Room>(text.size());
-    void* const block = ::operator new(innerBytes(room));
-    char* const inner = sInnerText(block);
-    sRoom(inner) = room;
-    text.copy(inner, text.size());
-    inner[room] = '\0';
-    return new (block) LmStringBuffer(LmReferenceCount::Immortal(), inner, room);
-}
-
-LmStringBuffer::LmStringBuffer(LmReferenceCount::Immortal immortal, char* text, Room length) noexcept
-    : LmObject(immortal), m_Length(length), m_Text(text)
-{
+    void* const block = ::operator new(roundedRoom(text.size()) + innerBytes(0));
+    auto* const pBuffer = new (block) LmStringBuffer(LmReferenceCount::Immortal(), static_cast<Room>(text.size()));
+    text.copy(sInnerText(block), text.size());
+    sInnerText(block)[text.size()] = '\0';
+    return pBuffer;
 }
 
 LmStringBuffer::~LmStringBuffer()
 {
-    dropOutsideText();
+    if (isTextOutside())
+    {
+        setOutsideText(nullptr);
+    }
 }
 
 /// The same as `delete`, in one piece for a buffer whose text lies behind it, as nearly all do.
@@ -211,7 +211,7 @@ void LmStringBuffer::sDestroy(LmStringBuffer* pBuffer) noexcept
         delete pBuffer;
         return;
     }
-    const std::size_t bytes = innerBytes(sRoom(sInnerText(pBuffer)));
+    const std::size_t bytes = sBlockBytes(pBuffer);
     pBuffer->LmStringBuffer::~LmStringBuffer();
     ThreadHeap::deallocate(pBuffer, bytes);
 }
@@ -228,37 +228,41 @@ void LmStringBuffer::operator delete(void* block, Room room) noexcept
 
 void LmStringBuffer::operator delete(void* block) noexcept
 {
-    ThreadHeap::deallocate(block, innerBytes(sRoom(sInnerText(block))));
+    ThreadHeap::deallocate(block, sBlockBytes(block));
 }
 
-bool LmStringBuffer::isTextOutside() const noexcept
+/// The room of the text as it lies now; not for a null text.
+std::size_t LmStringBuffer::presentRoom() noexcept
 {
-    return m_Text != nullptr && m_Text != sInnerText(const_cast<LmStringBuffer*>(this));
+    return isTextOutside() ? *reinterpret_cast<Room*>(outsideText() - s_OutsideHead) : sRoom(this);
 }
 
-void LmStringBuffer::setText(char* text, std::size_t length) noexcept
+inline void LmStringBuffer::setLength(std::size_t length) noexcept
 {
-    m_Text = text;
-    m_Text[length] = '\0';
+    text()[length] = '\0';
     m_Length = static_cast<Room>(length);
 }
 
-void LmStringBuffer::dropOutsideText() noexcept
+/// From now on the text is in that block, which is owned, or null. A former block goes.
+void LmStringBuffer::setOutsideText(char* text) noexcept
 {
-    if (isTextOutside())
+    if (isTextOutside() && outsideText() != nullptr)
     {
-        ::operator delete(m_Text - s_OutsideHead);
+        ::operator delete(outsideText() - s_OutsideHead);
     }
+    sRoom(this) |= sm_Outside;
+    outsideText() = text;
 }
 
 /// Makes room for a text of that length, keeping the present one.
 void LmStringBuffer::growTo(std::size_t length)
 {
-    if (m_Text == nullptr)
+    if (text() == nullptr)
     {
-        setText(sInnerText(this), 0);
+        sRoom(this) &= ~sm_Outside;
+        setLength(0);
     }
-    const std::size_t present = sRoom(m_Text);
+    const std::size_t present = presentRoom();
     if (length <= present)
     {
         return;
@@ -268,11 +272,14 @@ void LmStringBuffer::growTo(std::size_t length)
         throw std::bad_alloc();
     }
     const std::size_t room = std::max(length, present * 2);
-    char* const text = static_cast<char*>(::operator new(s_OutsideHead + room + 1)) + s_OutsideHead;
-    sRoom(text) = static_cast<Room>(room);
-    std::memcpy(text, m_Text, m_Length);
-    dropOutsideText();
-    setText(text, m_Length); // NOLINT(clang-analyzer-cplusplus.NewDelete): what was dropped is not this block
+    char* const grown = static_cast<char*>(::operator new(s_OutsideHead + room + 1)) + s_OutsideHead;
+    *reinterpret_cast<Room*>(grown - s_OutsideHead) = static_cast<Room>(room);
+    if (m_Length != 0)
+    {
+        std::memcpy(grown, text(), m_Length);
+    }
+    setOutsideText(grown);
+    setLength(m_Length);
 }
 
 LmStringBuffer* LmStringBuffer::assign(const char* text)
@@ -280,8 +287,7 @@ LmStringBuffer* LmStringBuffer::assign(const char* text)
     if (text == nullptr)
     {
         LmStringBuffer* const pTarget = isShared() ? sMake(0) : this;
-        pTarget->dropOutsideText();
-        pTarget->m_Text = nullptr;
+        pTarget->setOutsideText(nullptr);
         pTarget->m_Length = 0;
         return pTarget;
     }
@@ -292,8 +298,8 @@ LmStringBuffer* LmStringBuffer::assign(const char* text)
     }
     // A text that is part of this one is never longer, so it is still there after growing.
     growTo(length);
-    std::memmove(m_Text, text, length);
-    setText(m_Text, length);
+    std::memmove(this->text(), text, length);
+    setLength(length);
     return this;
 }
 
@@ -316,13 +322,14 @@ LmStringBuffer* LmStringBuffer::append(std::string_view text)
             sCreate(view(), static_cast<unsigned int>(std::min<std::size_t>(joined, UINT32_MAX)));
         return pJoined->append(text);
     }
+    const char* const own = this->text();
     const std::less_equal<const char*> notBehind;
-    const bool ownText =
-        m_Text != nullptr && notBehind(m_Text, text.data()) && notBehind(text.data(), m_Text + m_Length);
-    const std::ptrdiff_t offset = ownText ? text.data() - m_Text : 0;
+    const bool isOwn = own != nullptr && notBehind(own, text.data()) && notBehind(text.data(), own + m_Length);
+    const std::ptrdiff_t offset = isOwn ? text.data() - own : 0;
     growTo(joined);
-    std::memmove(m_Text + m_Length, ownText ? m_Text + offset : text.data(), text.size());
-    setText(m_Text, joined);
+    char* const grown = this->text();
+    std::memmove(grown + m_Length, isOwn ? grown + offset : text.data(), text.size());
+    setLength(joined);
     return this;
 }
 
@@ -337,8 +344,8 @@ LmStringBuffer* LmStringBuffer::trim()
     {
         return sCreate(trimmed);
     }
-    std::memmove(m_Text, trimmed.data(), trimmed.size());
-    setText(m_Text, trimmed.size());
+    std::memmove(text(), trimmed.data(), trimmed.size());
+    setLength(trimmed.size());
     return this;
 }
 

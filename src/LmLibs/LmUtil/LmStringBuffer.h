@@ -35,13 +35,13 @@ public:
     ~LmStringBuffer() override;
 
     /// The text with a NUL behind it; a null pointer only after `assign` was given one.
-    const char* getText() const { return m_Text; }
+    const char* getText() const { return const_cast<LmStringBuffer*>(this)->text(); }
 
     /// In bytes.
     unsigned int getLength() const { return m_Length; }
 
     /// All bytes, valid until the text changes.
-    std::string_view view() const { return {m_Text, m_Length}; }
+    std::string_view view() const { return {getText(), m_Length}; }
 
     /// The changing operations give the buffer that holds the result, for the handle they were called through: this
     /// one when no other handle shares it, otherwise a new one. The text given may be part of this one.
@@ -93,16 +93,18 @@ public:
 private:
     friend struct LmEmptyText;
 
-    /// Stands in front of each text, within the object's block or in one of its own.
+    /// How long a text may become in its place. The number stands behind the object, and behind it the inner text; of
+    /// a text in a block of its own, it stands at the begin of that block.
     using Room = std::uint32_t;
+
+    /// Set in the room behind the object when its text is in a block of its own, or null. The pointer to it then stands
+    /// where the inner text was.
+    static constexpr Room sm_Outside = 0x80000000;
 
     explicit LmStringBuffer(Room room) noexcept;
     LmStringBuffer(LmReferenceCount::Owned owned, Room room, Room length) noexcept;
-    LmStringBuffer(LmReferenceCount::Immortal immortal, char* text, Room length) noexcept;
-    explicit constexpr LmStringBuffer(char* emptyText) noexcept
-        : LmObject(LmReferenceCount::Immortal()), m_Length(0), m_Text(emptyText)
-    {
-    }
+    LmStringBuffer(LmReferenceCount::Immortal immortal, Room length) noexcept;
+    explicit constexpr LmStringBuffer(LmReferenceCount::Immortal immortal) noexcept : LmObject(immortal) {}
 
     static void* operator new(std::size_t size, Room room);
     static void operator delete(void* block, Room room) noexcept;
@@ -113,17 +115,21 @@ private:
     static LmStringBuffer* sCreateOwnedSlowly(std::string_view text);
     static LmStringBuffer* sMakeWith(std::string_view text, std::size_t room);
     static void sDestroy(LmStringBuffer* pBuffer) noexcept;
-    static char* sInnerText(void* block) noexcept;
-    static Room& sRoom(char* text) noexcept;
+    static Room& sRoom(void* block) noexcept { return *reinterpret_cast<Room*>(static_cast<LmStringBuffer*>(block) + 1); }
+    static char* sInnerText(void* block) noexcept { return reinterpret_cast<char*>(&sRoom(block) + 1); }
+    static std::size_t sBlockBytes(void* block) noexcept;
 
-    bool isTextOutside() const noexcept;
+    char*& outsideText() noexcept { return *reinterpret_cast<char**>(sInnerText(this) + sizeof(Room)); }
+    bool isTextOutside() const noexcept { return (sRoom(const_cast<LmStringBuffer*>(this)) & sm_Outside) != 0; }
+    char* text() noexcept { return __builtin_expect(isTextOutside(), 0) ? outsideText() : sInnerText(this); }
+
     bool isShared() const noexcept { return !isUnshared() && !isUnowned(); }
-    void setText(char* text, std::size_t length) noexcept;
-    void dropOutsideText() noexcept;
+    std::size_t presentRoom() noexcept;
+    void setLength(std::size_t length) noexcept;
+    void setOutsideText(char* text) noexcept;
     void growTo(std::size_t length);
 
     static LmStringBuffer* const sm_pEmpty;
 
     Room m_Length = 0;
-    char* m_Text;
 };
