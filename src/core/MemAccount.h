@@ -72,12 +72,14 @@ public:
     MemAccount(const MemAccount&) = delete;
     MemAccount& operator=(const MemAccount&) = delete;
 
-    /// Takes `size` bytes, aligned as a pointer is, and counts them here.
+    /// Takes `size` bytes, aligned for anything, and counts them here. Where `size` is `ofPointers`, they need be
+    /// aligned as a pointer only, which saves some.
     /// @throws std::bad_alloc
-    void* allocate(std::size_t size);
+    void* allocate(std::size_t size, std::size_t ofPointers = 0);
 
-    /// Gives back what `allocate` of the same account gave, from whatever thread. A null pointer does nothing.
-    void deallocate(void* block) noexcept;
+    /// Gives back what `allocate` of the same account gave with the same `ofPointers`, from whatever thread. A null
+    /// pointer does nothing.
+    void deallocate(void* block, std::size_t ofPointers = 0) noexcept;
 
 private:
     friend class ThreadHeap;
@@ -87,11 +89,12 @@ private:
     ~MemAccount() = default;
 
     static MemAccount* sFind(const char* account);
+    static constexpr std::size_t smallBytes(std::size_t size, std::size_t ofPointers);
 
     ///@{
     /// The way of blocks that are large, or for which the thread has nothing at hand.
-    __attribute__((cold)) void* allocateSlowly(std::size_t size);
-    __attribute__((cold)) void deallocateSlowly(Header* header) noexcept;
+    __attribute__((cold)) void* allocateSlowly(std::size_t size, std::size_t ofPointers);
+    __attribute__((cold)) void deallocateSlowly(Header* header, std::size_t ofPointers) noexcept;
     ///@}
 
     static std::atomic<MemAccount*> sm_First;

@@ -31,16 +31,21 @@
         return s_Account.get();                                                                                        \
     }
 
-/// For a class whose objects are given back without their size.
+/// For a class whose objects are given back without their size. An object of the class itself is aligned as its members
+/// need it, which are pointers; a class derived from it may need more.
 #define QUORVEX_MEM_ACCOUNT(Class)                                                                                     \
     QUORVEX_MEM_ACCOUNT_COMMON(Class)                                                                                  \
+    static constexpr std::size_t sizeOfPointers()                                                                      \
+    {                                                                                                                  \
+        return alignof(Class) <= alignof(void*) ? sizeof(Class) : 0;                                                   \
+    }                                                                                                                  \
     static void* operator new(std::size_t size)                                                                        \
     {                                                                                                                  \
-        return Quorvex::NoSizeMemAllocator::allocate(size, memAccount());                                              \
+        return Quorvex::NoSizeMemAllocator::allocate(size, memAccount(), sizeOfPointers());                            \
     }                                                                                                                  \
     static void operator delete(void* block)                                                                           \
     {                                                                                                                  \
-        Quorvex::NoSizeMemAllocator::deallocate(block, memAccount());                                                  \
+        Quorvex::NoSizeMemAllocator::deallocate(block, memAccount(), sizeOfPointers());                                \
     }
 
 /// For a class whose objects are given back together with their size.

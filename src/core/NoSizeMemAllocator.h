@@ -18,9 +18,15 @@ public:
     ///@}
 
     ///@{
-    /// The same for a caller that has looked its account up before.
-    static void* allocate(std::size_t size, MemAccount& account) { return account.allocate(size); }
-    static void deallocate(void* block, MemAccount& account) noexcept { account.deallocate(block); }
+    /// The same for a caller that has looked its account up before. `ofPointers` is as MemAccount takes it.
+    static void* allocate(std::size_t size, MemAccount& account, std::size_t ofPointers = 0)
+    {
+        return account.allocate(size, ofPointers);
+    }
+    static void deallocate(void* block, MemAccount& account, std::size_t ofPointers = 0) noexcept
+    {
+        account.deallocate(block, ofPointers);
+    }
     ///@}
 };
 

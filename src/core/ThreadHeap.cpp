@@ -300,25 +300,35 @@ MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
     return sum.usage();
 }
 
-void* MemAccount::allocateSlowly(std::size_t size)
+void* MemAccount::allocateSlowly(std::size_t size, std::size_t ofPointers)
 {
-    // The header of a large block stands right in front of an address that is aligned for anything.
-    const std::size_t inFront = ThreadHeap::isSmall(size, sizeof(Header)) ? 0 : ThreadHeap::sm_Offset;
-    if (size + inFront + sizeof(Header) < size)
+    if (ThreadHeap::isSmall(size, sizeof(Header)))
+    {
+        void* const block = ThreadHeap::allocate(smallBytes(size, ofPointers));
+        ThreadHeap::sCountTaken(*this, size);
+        return new (block) Header{size} + 1;
+    }
+    constexpr std::size_t inFront = ThreadHeap::sm_Offset + sizeof(Header);
+    if (size + inFront < size)
     {
         throw std::bad_alloc();
     }
-    auto* const block = static_cast<unsigned char*>(ThreadHeap::allocate(size + inFront + sizeof(Header)));
+    auto* const block = static_cast<unsigned char*>(ThreadHeap::allocate(size + inFront));
     ThreadHeap::sCountTaken(*this, size);
-    return new (block + inFront) Header{size} + 1;
+    return new (block + ThreadHeap::sm_Offset) Header{size} + 1;
 }
 
-void MemAccount::deallocateSlowly(Header* header) noexcept
+void MemAccount::deallocateSlowly(Header* header, std::size_t ofPointers) noexcept
 {
     const std::size_t size = header->size;
-    const std::size_t inFront = ThreadHeap::isSmall(size, sizeof(Header)) ? 0 : ThreadHeap::sm_Offset;
     ThreadHeap::sCountGivenBack(*this, size);
-    ThreadHeap::deallocate(reinterpret_cast<unsigned char*>(header) - inFront, size + inFront + sizeof(Header));
+    if (ThreadHeap::isSmall(size, sizeof(Header)))
+    {
+        ThreadHeap::deallocate(header, smallBytes(size, ofPointers));
+        return;
+    }
+    ThreadHeap::deallocate(reinterpret_cast<unsigned char*>(header) - ThreadHeap::sm_Offset,
+                           size + ThreadHeap::sm_Offset + sizeof(Header));
 }
 
 } // namespace Quorvex

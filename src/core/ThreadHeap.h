@@ -34,11 +34,14 @@ public:
     /// Larger blocks come from the system.
     static constexpr std::size_t sm_LargestBlock = 352;
 
-    /// How far a small block lies behind an address that is aligned for anything.
+    /// How far a small block of whole lines lies behind an address that is aligned for anything.
     static constexpr std::size_t sm_Offset = 8;
 
-    /// Small blocks lie 8 bytes behind an address that is aligned for anything, so that what stands behind a header of
-    /// 8 bytes is; larger ones lie on such an address.
+    /// A size, rounded up to whole lines.
+    static constexpr std::size_t wholeLines(std::size_t size) { return (size + sm_Line - 1) / sm_Line * sm_Line; }
+
+    /// Small blocks are aligned as a pointer is. Those of whole lines lie 8 bytes behind an address that is aligned for
+    /// anything, so that what stands behind a header of 8 bytes is; large blocks lie on such an address.
     /// @throws std::bad_alloc
     static void* allocate(std::size_t size)
     {
@@ -98,7 +101,8 @@ private:
     friend class MemAccount;
 
     static constexpr bool sm_SystemBlocks = QUORVEX_SANITIZED != 0;
-    static constexpr std::size_t sm_Granule = 16;
+    static constexpr std::size_t sm_Granule = 8;
+    static constexpr std::size_t sm_Line = 16;
     static constexpr std::size_t sm_Classes = sm_LargestBlock / sm_Granule + 1;
 
     /// Accounts beyond these are counted under a lock.
@@ -110,8 +114,6 @@ private:
         Block* next;
         Block* nextList;
     };
-    static_assert(sizeof(Block) <= sm_Granule, "a free block must fit the smallest size");
-
     /// Free blocks of one size. `room` is how many more make a full list.
     struct List
     {
@@ -164,10 +166,10 @@ private:
 
     static constexpr std::size_t classOf(std::size_t size) { return (size + sm_Granule - 1) / sm_Granule; }
 
-    /// A block of no size takes as much as one of the smallest.
+    /// The smallest blocks take as much as a free one.
     static constexpr std::size_t bytesOf(std::size_t sizeClass)
     {
-        return (sizeClass == 0 ? 1 : sizeClass) * sm_Granule;
+        return sizeClass * sm_Granule < sizeof(Block) ? sizeof(Block) : sizeClass * sm_Granule;
     }
 
     // Told to be cold here too, so that callers lay these ways out behind all others.
@@ -181,30 +183,37 @@ private:
     static __thread bool st_Ended __attribute__((tls_model("initial-exec")));
 };
 
-/// Stands in front of each block of an account, so that it can be given back without its size. The object behind it
-/// is aligned for anything: a block that is not small has room in front of its header for that.
+/// Stands in front of each block of an account, so that it can be given back without its size. A block that is not
+/// small has room in front of its header, so that the object behind it is aligned for anything.
 struct MemAccount::Header
 {
     std::size_t size;
 };
 
-inline void* MemAccount::allocate(std::size_t size)
+/// What a small block takes with its header.
+constexpr std::size_t MemAccount::smallBytes(std::size_t size, std::size_t ofPointers)
+{
+    const std::size_t bytes = size + sizeof(Header);
+    return size == ofPointers ? bytes : ThreadHeap::wholeLines(bytes);
+}
+
+inline void* MemAccount::allocate(std::size_t size, std::size_t ofPointers)
 {
     if (__builtin_expect(ThreadHeap::isSmall(size, sizeof(Header)), 1))
     {
         if (MemAccount::Figures* const figures = ThreadHeap::ownFigures(*this))
         {
-            if (void* const block = ThreadHeap::allocateAtHand(size + sizeof(Header)))
+            if (void* const block = ThreadHeap::allocateAtHand(smallBytes(size, ofPointers)))
             {
                 figures->take(size);
                 return new (block) Header{size} + 1;
             }
         }
     }
-    return allocateSlowly(size);
+    return allocateSlowly(size, ofPointers);
 }
 
-inline void MemAccount::deallocate(void* block) noexcept
+inline void MemAccount::deallocate(void* block, std::size_t ofPointers) noexcept
 {
     if (block == nullptr)
     {
@@ -215,13 +224,13 @@ inline void MemAccount::deallocate(void* block) noexcept
     if (__builtin_expect(ThreadHeap::isSmall(size, sizeof(Header)), 1))
     {
         MemAccount::Figures* const figures = ThreadHeap::ownFigures(*this);
-        if (figures != nullptr && ThreadHeap::deallocateAtHand(header, size + sizeof(Header)))
+        if (figures != nullptr && ThreadHeap::deallocateAtHand(header, smallBytes(size, ofPointers)))
         {
             figures->giveBack(size);
             return;
         }
     }
-    deallocateSlowly(header);
+    deallocateSlowly(header, ofPointers);
 }
 
 } // namespace Quorvex

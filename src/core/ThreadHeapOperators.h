@@ -47,7 +47,10 @@ private:
     {
         return ThreadHeap::isSmall(size, ThreadHeap::sm_Offset) ? ThreadHeap::sm_Offset : 0;
     }
-    static constexpr std::size_t bytesOf(std::size_t size) { return size + inFront(size); }
+    static constexpr std::size_t bytesOf(std::size_t size)
+    {
+        return inFront(size) == 0 ? size : ThreadHeap::wholeLines(size + inFront(size));
+    }
 };
 
 /// Lets a container take its small blocks from the thread's own heap. `T` is aligned as a pointer is.

@@ -14,11 +14,13 @@ using Quorvex::ThreadHeap;
 namespace
 {
 
-constexpr std::size_t s_Granule = 16;
+constexpr std::size_t s_Granule = 8;
 constexpr std::size_t s_RoomInFront = sizeof(std::uint32_t);
 constexpr std::size_t s_LargestRoom = std::numeric_limits<std::uint32_t>::max() / 2; ///< below the mark
-constexpr std::size_t s_LongestShort = 32; ///< what is copied in place
+constexpr std::size_t s_LongestShort = 32;                                           ///< what is copied in place
 constexpr std::size_t s_OutsideHead = 8; ///< keeps the room number of an outside text aligned
+
+constexpr std::size_t s_LeastBytes = 32; ///< of a block that may have to hold the pointer to an outside text
 
 constexpr std::size_t innerBytes(std::size_t room)
 {
@@ -28,7 +30,8 @@ constexpr std::size_t innerBytes(std::size_t room)
 /// The room of a block that is filled up to a multiple of the granule.
 constexpr std::size_t roundedRoom(std::size_t room)
 {
-    return ((innerBytes(room) + s_Granule - 1) & ~(s_Granule - 1)) - innerBytes(0);
+    const std::size_t bytes = (innerBytes(room) + s_Granule - 1) & ~(s_Granule - 1);
+    return std::max(bytes, s_LeastBytes) - innerBytes(0);
 }
 
 static_assert(innerBytes(roundedRoom(0)) >= sizeof(LmStringBuffer) + 2 * s_RoomInFront + sizeof(char*),
@@ -168,8 +171,8 @@ LmStringBuffer* LmStringBuffer::sCreateOwned(std::string_view text)
         const std::size_t room = roundedRoom(text.size());
         if (void* const block = ThreadHeap::allocateAtHand(innerBytes(room)))
         {
-            auto* const pBuffer = new (block) LmStringBuffer(LmReferenceCount::Owned(), static_cast<Room>(room),
-                                                             static_cast<Room>(text.size()));
+            auto* const pBuffer = new (block)
+                LmStringBuffer(LmReferenceCount::Owned(), static_cast<Room>(room), static_cast<Room>(text.size()));
             char* const inner = sInnerText(block);
             copyShort(inner, text);
             inner[text.size()] = '\0';

@@ -115,7 +115,10 @@ private:
     static LmStringBuffer* sCreateOwnedSlowly(std::string_view text);
     static LmStringBuffer* sMakeWith(std::string_view text, std::size_t room);
     static void sDestroy(LmStringBuffer* pBuffer) noexcept;
-    static Room& sRoom(void* block) noexcept { return *reinterpret_cast<Room*>(static_cast<LmStringBuffer*>(block) + 1); }
+    static Room& sRoom(void* block) noexcept
+    {
+        return *reinterpret_cast<Room*>(static_cast<LmStringBuffer*>(block) + 1);
+    }
     static char* sInnerText(void* block) noexcept { return reinterpret_cast<char*>(&sRoom(block) + 1); }
     static std::size_t sBlockBytes(void* block) noexcept;
 

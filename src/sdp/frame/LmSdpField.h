@@ -14,7 +14,7 @@ namespace Quorvex
 {
 class FileLogger;
 class Logger;
-}
+} // namespace Quorvex
 
 template <typename Product>
 class LmSdpRegistry;

@@ -6,10 +6,7 @@ const LmSdpDescription::FieldTokens& LmSdpMediaDescription::sFieldTokens()
     return s_Tokens;
 }
 
-LmSdpMediaDescription::LmSdpMediaDescription()
-    : LmSdpDescription("m", sFieldTokens())
-{
-}
+LmSdpMediaDescription::LmSdpMediaDescription() : LmSdpDescription("m", sFieldTokens()) {}
 
 LmSdpMediaDescription::~LmSdpMediaDescription() = default;
 

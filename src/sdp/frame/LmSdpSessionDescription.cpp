@@ -29,10 +29,7 @@ const LmSdpDescription::FieldTokens& LmSdpSessionDescription::sFieldTokens()
     return s_Tokens;
 }
 
-LmSdpSessionDescription::LmSdpSessionDescription()
-    : LmSdpDescription("v", sFieldTokens())
-{
-}
+LmSdpSessionDescription::LmSdpSessionDescription() : LmSdpDescription("v", sFieldTokens()) {}
 
 LmSdpSessionDescription::~LmSdpSessionDescription() = default;
 

@@ -39,10 +39,7 @@ public:
     ///@{
     /// The chain of a slot, and its first line; null where the slot is empty.
     Chain* chain(unsigned int slot) { return isTaken(slot) ? &m_Chains[slot] : nullptr; }
-    LmSdpField* first(unsigned int slot) const
-    {
-        return isTaken(slot) ? m_Chains[slot].hFirst.untested() : nullptr;
-    }
+    LmSdpField* first(unsigned int slot) const { return isTaken(slot) ? m_Chains[slot].hFirst.untested() : nullptr; }
     ///@}
 
     /// Begins the chain of an empty slot.

@@ -6,10 +6,7 @@ const LmSdpDescription::FieldTokens& LmSdpTimeDescription::sFieldTokens()
     return s_Tokens;
 }
 
-LmSdpTimeDescription::LmSdpTimeDescription()
-    : LmSdpDescription("t", sFieldTokens())
-{
-}
+LmSdpTimeDescription::LmSdpTimeDescription() : LmSdpDescription("t", sFieldTokens()) {}
 
 LmSdpTimeDescription::~LmSdpTimeDescription() = default;
 
