@@ -52,9 +52,14 @@ void LmLine::markRest(const char* end)
     m_End = place;
 }
 
-void LmLine::copy(LmInputStream& in)
+void LmLine::copy(LmInputStream& in, const char* emptyMessage)
 {
     LmByteCursor cursor(in);
+    const int next = emptyMessage == nullptr ? 0 : cursor.peek();
+    if (next == -1 || lmIsLineEnd(next))
+    {
+        LmException::sThrow(emptyMessage);
+    }
     m_Copy = std::make_unique<std::string>(lmTakeLine(cursor));
     mark(m_Copy->data(), m_Copy->data() + m_Copy->size());
 }

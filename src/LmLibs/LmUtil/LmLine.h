@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LmLibs/LmUtil/LmCharacters.h"
+#include "LmLibs/LmUtil/LmException.h"
 #include "LmLibs/LmUtil/LmInputStream.h"
 
 #include <memory>
@@ -13,17 +14,23 @@
 class LmLine
 {
 public:
-    explicit LmLine(LmInputStream& in)
+    explicit LmLine(LmInputStream& in) : LmLine(in, nullptr) {}
+
+    /// The same for a line of which something must be left.
+    /// @throws LmException with that message otherwise; nothing has been consumed then
+    LmLine(LmInputStream& in, const char* emptyMessage)
     {
-        if (__builtin_expect(in.hasWindow(), 1))
+        if (__builtin_expect(!in.hasWindow(), 0))
         {
-            mark(in.windowBegin(), in.windowEnd());
-            in.consumeTo(behindLineEnd(in.windowEnd()));
+            copy(in, emptyMessage);
+            return;
         }
-        else
+        mark(in.windowBegin(), in.windowEnd());
+        if (emptyMessage != nullptr && __builtin_expect(m_End == m_Begin, 0))
         {
-            copy(in);
+            LmException::sThrow(emptyMessage);
         }
+        in.consumeTo(behindLineEnd(in.windowEnd()));
     }
 
     LmLine(const LmLine&) = delete;
@@ -61,7 +68,7 @@ private:
     /// Finds in one pass over the range what there is to know of its first line.
     LMUTIL_API void mark(const char* begin, const char* end);
     void markRest(const char* end);
-    LMUTIL_API __attribute__((cold)) void copy(LmInputStream& in);
+    LMUTIL_API __attribute__((cold)) void copy(LmInputStream& in, const char* emptyMessage);
 
     std::unique_ptr<const std::string> m_Copy;
     const char* m_Begin;

@@ -34,8 +34,8 @@ constexpr std::size_t roundedRoom(std::size_t room)
     return std::max(bytes, s_LeastBytes) - innerBytes(0);
 }
 
-static_assert(innerBytes(roundedRoom(0)) >= sizeof(LmStringBuffer) + 2 * s_RoomInFront + sizeof(char*),
-              "the pointer to an outside text must fit");
+// A block holds the pointer to an outside text.
+static_assert(innerBytes(roundedRoom(0)) >= sizeof(LmStringBuffer) + 2 * s_RoomInFront + sizeof(char*));
 
 /// Copies front and back of so many bytes, which may overlap.
 template <std::size_t Bytes>

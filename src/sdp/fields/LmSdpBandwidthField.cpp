@@ -39,8 +39,7 @@ void LmSdpBandwidthField::setAmount(const char* amount)
 void LmSdpBandwidthField::parse(LmInputStream& in)
 {
     constexpr const char* invalid = "LmSdpBandwidthField::parse() Invalid Bandwidth Field";
-    lmRefuseEmptyLine(in, invalid);
-    const LmLine line(in);
+    const LmLine line(in, invalid);
     if (!line.hasColon())
     {
         LmSdpParseError::sThrow(invalid);

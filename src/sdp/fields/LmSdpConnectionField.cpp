@@ -64,8 +64,7 @@ void LmSdpConnectionField::setAddress(const char* text)
 void LmSdpConnectionField::parse(LmInputStream& in)
 {
     const Quorvex::TraceScope trace(s_Logger, "LmSdpConnectionField::parse");
-    lmRefuseEmptyLine(in, "LmSdpConnectionField::parse() Incomplete Connection Field");
-    const LmLine wholeLine(in);
+    const LmLine wholeLine(in, "LmSdpConnectionField::parse() Incomplete Connection Field");
     const std::string_view line = wholeLine.view();
     const std::size_t firstBlank = lmFindByte(line, ' ');
     if (firstBlank == s_None)

@@ -46,8 +46,7 @@ void LmSdpEmailField::setComment(const char* text)
 
 void LmSdpEmailField::parse(LmInputStream& in)
 {
-    lmRefuseEmptyLine(in, s_Incomplete);
-    const LmLine wholeLine(in);
+    const LmLine wholeLine(in, s_Incomplete);
     const std::string_view line = lmTrimmed(wholeLine.view());
     std::string_view address = line;
     m_Contact.m_Format = LmSdpContact::eAddressOnly;

@@ -34,8 +34,7 @@ void LmSdpKeyField::setKey(const char* text)
 
 void LmSdpKeyField::parse(LmInputStream& in)
 {
-    lmRefuseEmptyLine(in, "LmSdpKeyField::parse() Incomplete Key Field");
-    const LmLine wholeLine(in);
+    const LmLine wholeLine(in, "LmSdpKeyField::parse() Incomplete Key Field");
     const std::string_view line = wholeLine.view();
     if (!wholeLine.hasColon())
     {

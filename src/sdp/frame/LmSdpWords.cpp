@@ -2,32 +2,41 @@
 
 #include "sdp/frame/LmSdpCommonText.h"
 
-#include <algorithm>
-
 namespace
 {
 
 constexpr unsigned int s_ListCapacity = 256;
 
+/// Words are so short that to look at each byte is the fastest way.
+const char* nextBlank(const char* place, const char* end)
+{
+    while (place != end && *place != ' ')
+    {
+        ++place;
+    }
+    return place;
+}
+
 } // namespace
 
 LmSdpWordList lmWords(std::string_view text)
 {
-    LmSdpWordList words;
-    words.reserve(1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ' ')));
-    // Words are so short that to look at each byte is the fastest way.
     const char* start = text.data();
     const char* const end = start + text.size();
-    for (const char* place = start; place != end; ++place)
+    std::size_t blanks = 0;
+    for (const char* blank = nextBlank(start, end); blank != end; blank = nextBlank(blank + 1, end))
     {
-        if (*place == ' ')
+        ++blanks;
+    }
+    LmSdpWordList words;
+    words.reserve(blanks + 1);
+    for (const char* blank = nextBlank(start, end); blank != end; blank = nextBlank(start, end))
+    {
+        if (blank != start)
         {
-            if (place != start)
-            {
-                words.push_back(lmSdpText({start, static_cast<std::size_t>(place - start)}));
-            }
-            start = place + 1;
+            words.push_back(lmSdpText({start, static_cast<std::size_t>(blank - start)}));
         }
+        start = blank + 1;
     }
     words.push_back(lmSdpText({start, static_cast<std::size_t>(end - start)}));
     return words;

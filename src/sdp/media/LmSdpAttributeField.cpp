@@ -56,8 +56,7 @@ void LmSdpAttributeField::setValue(LmSdpAttribute* pValue)
 
 void LmSdpAttributeField::parse(LmInputStream& in)
 {
-    lmRefuseEmptyLine(in, "LmSdpAttributeField::parse Incomplete Attribute Field");
-    const LmLine line(in);
+    const LmLine line(in, "LmSdpAttributeField::parse Incomplete Attribute Field");
     m_Name = lmSdpText(line.inFrontOfColon());
     if (line.hasColon())
     {
