@@ -38,7 +38,10 @@ protected:
             LmObject* const pFormer = m_pObject;
             m_pObject = other.m_pObject;
             other.m_pObject = nullptr;
-            release(pFormer);
+            if (__builtin_expect(pFormer != nullptr, 0))
+            {
+                pFormer->Release();
+            }
         }
         return *this;
     }

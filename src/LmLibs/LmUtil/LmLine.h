@@ -33,6 +33,14 @@ public:
         in.consumeTo(behindLineEnd(in.windowEnd()));
     }
 
+    ~LmLine()
+    {
+        if (__builtin_expect(m_Copy != nullptr, 0))
+        {
+            m_Copy.reset();
+        }
+    }
+
     LmLine(const LmLine&) = delete;
     LmLine& operator=(const LmLine&) = delete;
 
@@ -56,13 +64,16 @@ private:
 
     const char* behindLineEnd(const char* end) const
     {
-        if (m_End == end)
+        if (__builtin_expect(m_End == end, 0))
         {
             return end;
         }
         const char* const next = m_End + 1;
-        const bool isPair = next != end && *m_End == '\r' && *next == '\n';
-        return next + (isPair ? 1 : 0);
+        if (__builtin_expect(next == end, 0) || __builtin_expect(*m_End != '\r', 0))
+        {
+            return next;
+        }
+        return next + (*next == '\n' ? 1 : 0);
     }
 
     /// Finds in one pass over the range what there is to know of its first line.

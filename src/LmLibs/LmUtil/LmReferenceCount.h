@@ -73,24 +73,28 @@ public:
     bool dropOnlyOwner() noexcept
     {
         const bool isOnly = isOne();
-        if (isOnly)
+        if (__builtin_expect(isOnly, 1))
         {
             m_Count.store(0, std::memory_order_relaxed);
         }
         return isOnly;
     }
 
-    /// As `decrement`, but tells only whether the count is 0 now. The ways of an only owner and of an immortal object
-    /// are in place, and the third is not.
+    /// As `decrement`, but tells only whether the count is 0 now. It is quickest for an immortal object, as most texts
+    /// of a body are.
     bool decrementsToZero() noexcept
     {
         const std::uint32_t count = m_Count.load(std::memory_order_acquire);
+        if (__builtin_expect(count == sm_Immortal, 1))
+        {
+            return false;
+        }
         if (count == 1)
         {
             m_Count.store(0, std::memory_order_relaxed);
             return true;
         }
-        return count != sm_Immortal && decrementShared() == 0;
+        return decrementShared() == 0;
     }
 
     /// True when the caller, who holds a reference, holds the only one.

@@ -68,7 +68,8 @@ public:
     ~LmString()
     {
         // Counted here, where the class is known, rather than through the object's table; the base finds nothing left.
-        if (LmStringBuffer* const pBuffer = buffer())
+        LmStringBuffer* const pBuffer = buffer();
+        if (__builtin_expect(pBuffer != nullptr, 1))
         {
             pBuffer->drop();
             forget();

@@ -18,7 +18,7 @@ LMSDP_API LmStringBuffer* lmSdpSharedText(std::string_view text) noexcept;
 /// counting; any other text is copied.
 inline LmString lmSdpText(std::string_view text)
 {
-    if (text.empty())
+    if (__builtin_expect(text.empty(), 0))
     {
         return LmString();
     }

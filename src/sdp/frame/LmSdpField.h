@@ -33,7 +33,7 @@ public:
     explicit LmSdpField(const char* token) : m_Token(lmSdpToken(token)) {}
     ~LmSdpField() override
     {
-        if (m_Next)
+        if (__builtin_expect(!m_Next.isNull(), 0))
         {
             releaseChain();
         }
