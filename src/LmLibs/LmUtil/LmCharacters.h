@@ -180,7 +180,7 @@ inline std::string_view lmSubstr(std::string_view text, std::size_t start, std::
 /// What a C string sees of the text: the bytes in front of the first NUL.
 inline std::string_view lmUpToNul(std::string_view text)
 {
-    return text.substr(0, text.find('\0'));
+    return text.substr(0, lmFindByte(text, '\0'));
 }
 
 /// What `atol` gives for the text: white space, a sign and digits at its beginning, the nearest value where it is out

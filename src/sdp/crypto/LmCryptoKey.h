@@ -27,6 +27,12 @@ public:
     LmCryptoKey(const LmCryptoKey& other) = default;
     LmCryptoKey& operator=(const LmCryptoKey& other) = default;
     ///@}
+
+    ///@{
+    /// The same, and takes the text of the key away.
+    LmCryptoKey(LmCryptoKey&& other) noexcept = default;
+    LmCryptoKey& operator=(LmCryptoKey&& other) noexcept = default;
+    ///@}
     ~LmCryptoKey() = default;
 
     /// Sets the lifetime to 2 to the `power`. At 64 or above nothing changes.

@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 using Quorvex::TraceScope;
 
@@ -288,7 +289,8 @@ void LmSdpCryptoAttribute::readKey(Cursor& cursor)
     {
         readKeyMki(key, cursor);
     }
-    addKey(key);
+    m_Keys.push_back(std::move(key));
+    setChangedFlag(true);
 }
 
 template <typename Cursor>
