@@ -5,11 +5,17 @@
 namespace Quorvex
 {
 
-bool TraceScope::isWanted(const Logger& logger)
+void TraceScope::begin(const Logger* pLogger, const char* name)
 {
-    const LogLevel level = logger.getLogLevel();
-    const bool wanted = level == eNotSet ? logger.isEnabledFor(eTrace) : level <= eTrace;
-    return wanted && logger.isReady() != 0;
+    m_pLogger = pLogger;
+    m_Name = name;
+    const LogLevel level = pLogger->getLogLevel();
+    const bool isWanted = level == eNotSet ? pLogger->isEnabledFor(eTrace) : level <= eTrace;
+    m_Active = isWanted && pLogger->isReady() != 0;
+    if (m_Active)
+    {
+        ctorLog();
+    }
 }
 
 void TraceScope::ctorLog() const

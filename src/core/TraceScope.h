@@ -11,11 +11,12 @@ class HARNWICK_CORE_API TraceScope
 {
 public:
     /// `name` is a string literal; `pLogger` may be null, which makes a silent scope.
-    TraceScope(const Logger* pLogger, const char* name) : m_pLogger(pLogger), m_Name(name), m_Active(isTraced(pLogger))
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): a silent scope has nothing to remember
+    TraceScope(const Logger* pLogger, const char* name) : m_Active(false)
     {
-        if (m_Active)
+        if (__builtin_expect(pLogger != nullptr, 0))
         {
-            ctorLog();
+            begin(pLogger, name);
         }
     }
 
@@ -27,7 +28,7 @@ public:
 
     ~TraceScope()
     {
-        if (m_Active)
+        if (__builtin_expect(m_Active, 0))
         {
             dtorLog();
         }
@@ -41,8 +42,8 @@ protected:
     ///@}
 
 private:
-    static bool isTraced(const Logger* pLogger) { return pLogger != nullptr && isWanted(*pLogger); }
-    static bool isWanted(const Logger& logger);
+    /// The way of a logger that somebody may listen to.
+    __attribute__((cold)) void begin(const Logger* pLogger, const char* name);
 
     const Logger* m_pLogger;
     const char* m_Name;

@@ -174,7 +174,7 @@ LmHandle<LmSdpDescription> LmSdpDescription::sConstructFrom(LmInputStream& in)
     {
         LmSdpParseError::sThrow("Unknown token for Description");
     }
-    hDescription->parse(in);
+    hDescription.untested()->parse(in);
     return hDescription;
 }
 

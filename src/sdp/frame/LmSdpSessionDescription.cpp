@@ -58,7 +58,7 @@ void LmSdpSessionDescription::add(LmHandle<LmSdpDescription>&& hDescription)
 {
     const Quorvex::Logger* const pLogger = s_Logger.listening(Quorvex::eTrace);
     const Quorvex::TraceScope trace(pLogger, "LmSdpSessionDescription::addDescription");
-    LmSdpDescription* const pDescription = hDescription;
+    LmSdpDescription* const pDescription = hDescription.untested();
     if (pDescription == nullptr)
     {
         return;

@@ -36,7 +36,8 @@ LmSdpAttributeField::LmSdpAttributeField(const char* name, LmSdpAttribute* pValu
     lmRefuseBlank<LmSdpParseError>(m_Name, s_NoName);
 }
 
-LmSdpAttributeField::~LmSdpAttributeField() = default;
+// In one piece with what gives the memory back.
+__attribute__((flatten)) LmSdpAttributeField::~LmSdpAttributeField() = default;
 
 void LmSdpAttributeField::setName(const char* name)
 {
