@@ -2,6 +2,10 @@
 
 #include <strings.h>
 
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
 namespace Quorvex
 {
 namespace Srtp
@@ -10,6 +14,23 @@ namespace
 {
 
 constexpr std::string_view s_Names[] = {"AES_CM_128_HMAC_SHA1_80", "AES_CM_128_HMAC_SHA1_32", "F8_128_HMAC_SHA1_80"};
+
+/// The eight bytes at a place, letters as small ones. Other bytes may change too, so that equal ones may differ no more.
+std::uint64_t smallLetters(const char* place)
+{
+    std::uint64_t bytes;
+    std::memcpy(&bytes, place, sizeof bytes);
+    return bytes | 0x2020202020202020U;
+}
+
+/// A quick look at both ends, and the exact comparison where they are the same.
+bool isSame(std::string_view name, std::string_view known)
+{
+    constexpr std::size_t atEnd = sizeof(std::uint64_t);
+    return name.size() == known.size() && smallLetters(name.data()) == smallLetters(known.data()) &&
+           smallLetters(name.data() + name.size() - atEnd) == smallLetters(known.data() + known.size() - atEnd) &&
+           ::strncasecmp(name.data(), known.data(), known.size()) == 0;
+}
 
 bool isKnown(CryptoType::eCryptoType type)
 {
@@ -28,7 +49,7 @@ CryptoType::eCryptoType CryptoType::parseCryptoTypeStr(std::string_view name)
 {
     for (int type = 0; type < EXTENDED; ++type)
     {
-        if (name.size() == s_Names[type].size() && ::strncasecmp(name.data(), s_Names[type].data(), name.size()) == 0)
+        if (isSame(name, s_Names[type]))
         {
             return static_cast<eCryptoType>(type);
         }

@@ -36,9 +36,9 @@ constexpr const char* s_ParameterNames[] = {
     "KDR", "UNENCRYPTED_SRTP", "UNENCRYPTED_SRTCP", "UNAUTHENTICATED_SRTP", "FEC_ORDER", "FEC_KEY", "WSH"};
 
 /// Takes the bytes in front of the first stop, white space in front of them passed over. Nothing at the end of input,
-/// and for a token that is too long.
-template <typename Cursor>
-std::optional<std::string_view> takeToken(Cursor& cursor, const LmFewBytes& stops)
+/// and for a token that is too long. The stops are known to the compiler, which compares no byte with one of them twice.
+template <const LmFewBytes& stops, typename Cursor>
+std::optional<std::string_view> takeToken(Cursor& cursor)
 {
     cursor.skipWhile(lmIsSpace);
     const bool isOver = cursor.peek() == -1;
@@ -57,11 +57,22 @@ std::string_view loggable(std::string_view suite)
     return suite.substr(0, suite.find(':'));
 }
 
-/// Whether this is the one key method there is, in upper or lower case.
+/// Whether this is the one key method there is, in upper or lower case. A letter and no other byte becomes a small
+/// letter with the bit of those set.
 bool isInline(std::string_view method)
 {
-    constexpr std::string_view name = "inline";
-    return method.size() == name.size() && ::strncasecmp(method.data(), name.data(), name.size()) == 0;
+    constexpr char name[] = {'i', 'n', 'l', 'i', 'n', 'e'};
+    constexpr char smallBit = 0x20;
+    if (method.size() != sizeof name)
+    {
+        return false;
+    }
+    int difference = 0;
+    for (std::size_t i = 0; i < sizeof name; ++i)
+    {
+        difference |= (method[i] | smallBit) ^ name[i];
+    }
+    return difference == 0;
 }
 
 template <typename Number>
@@ -213,7 +224,7 @@ void LmSdpCryptoAttribute::read(Cursor& cursor)
 template <typename Cursor>
 void LmSdpCryptoAttribute::readSuite(Cursor& cursor)
 {
-    if (const auto suite = takeToken(cursor, s_BehindValue))
+    if (const auto suite = takeToken<s_BehindValue>(cursor))
     {
         storeSuite(*suite);
     }
@@ -228,7 +239,7 @@ void LmSdpCryptoAttribute::readKeys(Cursor& cursor)
 {
     do
     {
-        const auto method = takeToken(cursor, s_BehindMethod);
+        const auto method = takeToken<s_BehindMethod>(cursor);
         if (!method)
         {
             LmSdpParseError::sThrow("No : in key-params LmSdpCryptoAttribute::parse()");
@@ -250,7 +261,7 @@ void LmSdpCryptoAttribute::readKey(Cursor& cursor)
 {
     const TraceScope trace(s_Logger, "LmSdpCryptoAttribute::parseKey");
     LmCryptoKey key;
-    if (const auto keySalt = takeToken(cursor, s_BehindKey))
+    if (const auto keySalt = takeToken<s_BehindKey>(cursor))
     {
         key.m_Key = LmString(*keySalt);
     }
@@ -332,7 +343,7 @@ void LmSdpCryptoAttribute::readSessionParameters(Cursor& cursor)
 {
     while (!cursor.isAtEnd())
     {
-        const auto name = takeToken(cursor, s_BehindName);
+        const auto name = takeToken<s_BehindName>(cursor);
         if (!name)
         {
             if (!cursor.isAtEnd() && cursor.peek() == -1)
@@ -350,7 +361,7 @@ void LmSdpCryptoAttribute::readSessionParameters(Cursor& cursor)
         LmSecurityDescription parameter(LmString(*name).c_str(), "");
         if (lmTakeByte(cursor) == '=')
         {
-            if (const auto value = takeToken(cursor, s_BehindValue))
+            if (const auto value = takeToken<s_BehindValue>(cursor))
             {
                 parameter.m_Value = LmString(*value);
             }
