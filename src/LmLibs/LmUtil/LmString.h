@@ -36,8 +36,9 @@ public:
     /// Shares the buffer, or owns one that is new.
     explicit LmString(LmStringBuffer& buffer) noexcept : LmHandle(sCounted(&buffer), Adopt()) {}
 
-    /// Shares a buffer that is never counted, as `LmStringBuffer::sCreateImmortal` makes them.
-    static LmString sShareImmortal(LmStringBuffer& buffer) noexcept { return LmString(&buffer, Adopt()); }
+    /// Takes a buffer over together with a reference that the caller has counted, or that needs no counting, as those
+    /// of `LmStringBuffer::sCreateImmortal`.
+    static LmString sAdopt(LmStringBuffer& buffer) noexcept { return LmString(&buffer, Adopt()); }
 
     ///@{
     /// Copying shares the buffer; moving leaves the other one empty.

@@ -23,15 +23,19 @@ inline LmString lmSdpText(std::string_view text)
         return LmString();
     }
     LmStringBuffer* const pShared = lmSdpSharedText(text);
-    return pShared != nullptr ? LmString::sShareImmortal(*pShared) : LmString(text);
+    return pShared != nullptr ? LmString::sAdopt(*pShared) : LmString(text);
 }
 
-/// The token of a line or description; the single letters are shared.
-inline LmString lmSdpToken(const char* token)
+/// The token of a line or description, counted for an LmString to adopt; the single letters are shared.
+inline LmStringBuffer& lmSdpTokenBuffer(const char* token)
 {
-    const bool isLetter = token != nullptr && token[0] != '\0' && token[1] == '\0';
-    LmStringBuffer* const pShared = isLetter ? lmSdpLetters[static_cast<unsigned char>(token[0])] : nullptr;
-    return pShared != nullptr ? LmString::sShareImmortal(*pShared) : LmString(token);
+    const std::string_view text = lmViewOf(token);
+    if (text.empty())
+    {
+        return *LmStringBuffer::sEmpty();
+    }
+    LmStringBuffer* const pShared = text.size() == 1 ? lmSdpLetters[static_cast<unsigned char>(text[0])] : nullptr;
+    return pShared != nullptr ? *pShared : *LmStringBuffer::sCreateOwned(text);
 }
 
 /// Gives each member the next word of this line, as `operator>>` takes it.

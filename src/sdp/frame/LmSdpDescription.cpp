@@ -49,17 +49,17 @@ const std::array<unsigned int, 26> LmSdpDescription::sm_FieldOrder = {
     15, 3, 8, 15, 11, 4, 1, 6, 0, 15, 15, 15, 12};
 
 LmSdpDescription::FieldTokens::FieldTokens(const char* tokens)
-    : text(LmString::sShareImmortal(*LmStringBuffer::sCreateImmortal(tokens))), letters(sLettersOf(tokens))
+    : text(LmString::sAdopt(*LmStringBuffer::sCreateImmortal(tokens))), letters(sLettersOf(tokens))
 {
 }
 
 LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens)
-    : m_Token(lmSdpToken(token)), m_FieldTokens(fieldTokens), m_Letters(sLettersOf(m_FieldTokens.view()))
+    : m_Token(LmString::sAdopt(lmSdpTokenBuffer(token))), m_FieldTokens(fieldTokens), m_Letters(sLettersOf(m_FieldTokens.view()))
 {
 }
 
 LmSdpDescription::LmSdpDescription(const char* token, const FieldTokens& fieldTokens)
-    : m_Token(lmSdpToken(token)), m_FieldTokens(fieldTokens.text), m_Letters(fieldTokens.letters)
+    : m_Token(LmString::sAdopt(lmSdpTokenBuffer(token))), m_FieldTokens(fieldTokens.text), m_Letters(fieldTokens.letters)
 {
 }
 

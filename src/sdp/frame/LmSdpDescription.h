@@ -129,9 +129,9 @@ private:
     unsigned int ownSlot(const char* token) const;
     static unsigned int sGetFieldPosition(const char* token);
 
-    static const unsigned int sm_TokenOffset;
-    static const std::array<unsigned int, 26> sm_FieldOrder;
-    static LmSdpRegistry<LmSdpDescription>* sm_ConstructorMap;
+    LMSDP_LOCAL static const unsigned int sm_TokenOffset;
+    LMSDP_LOCAL static const std::array<unsigned int, 26> sm_FieldOrder;
+    LMSDP_LOCAL static LmSdpRegistry<LmSdpDescription>* sm_ConstructorMap;
 
     LmSdpSlots m_Fields;
     LmString m_Token;

@@ -30,7 +30,7 @@ public:
     using Constructor = LmSdpField* (*)();
 
     /// `token` is the line's letter. A null pointer gives an empty token.
-    explicit LmSdpField(const char* token) : m_Token(lmSdpToken(token)) {}
+    explicit LmSdpField(const char* token) : LmSdpField(lmSdpTokenBuffer(token)) {}
     ~LmSdpField() override
     {
         if (__builtin_expect(!m_Next.isNull(), 0))
@@ -82,6 +82,9 @@ protected:
 private:
     friend class LmSdpDescription;
 
+    /// The same when the token has been made, so that nothing is left to fail.
+    explicit LmSdpField(LmStringBuffer& counted) noexcept : m_Token(LmString::sAdopt(counted)) {}
+
     ///@{
     /// What `sConstructFrom` does, in place for the loop over a description's lines (LmSdpLineReading.h).
     static LmHandle<LmSdpField> sReadLine(LmInputStream& in);
@@ -102,8 +105,8 @@ private:
         return pLast;
     }
 
-    static LmSdpRegistry<LmSdpField>* sm_pConstructorMap;
-    static Quorvex::FileLogger sm_Logger;
+    LMSDP_LOCAL static LmSdpRegistry<LmSdpField>* sm_pConstructorMap;
+    LMSDP_LOCAL static Quorvex::FileLogger sm_Logger;
 
     LmString m_Token;
     LmHandle<LmSdpField> m_Next;
