@@ -32,8 +32,8 @@ MemAccount::Usage MemAccount::Figures::usage() const
     return usage;
 }
 
-MemAccount::MemAccount(const char* account, unsigned int index, MemAccount* next)
-    : m_Name(account), m_Index(index), m_Next(next)
+MemAccount::MemAccount(const char* account, std::size_t offset, MemAccount* next)
+    : m_Name(account), m_Offset(offset), m_Next(next)
 {
 }
 
@@ -58,7 +58,7 @@ MemAccount& MemAccount::get(const char* account)
     if (made == nullptr)
     {
         MemAccount* const first = sm_First.load(std::memory_order_relaxed);
-        made = new MemAccount(account, first == nullptr ? 0 : first->m_Index + 1, first);
+        made = new MemAccount(account, first == nullptr ? 0 : first->m_Offset + sizeof(Figures), first);
         sm_First.store(made, std::memory_order_release);
     }
     return *made;

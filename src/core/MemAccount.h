@@ -85,7 +85,7 @@ private:
     friend class ThreadHeap;
     struct Header;
 
-    MemAccount(const char* account, unsigned int index, MemAccount* next);
+    MemAccount(const char* account, std::size_t offset, MemAccount* next);
     ~MemAccount() = default;
 
     static MemAccount* sFind(const char* account);
@@ -100,7 +100,7 @@ private:
     static std::atomic<MemAccount*> sm_First;
 
     const std::string m_Name;
-    const unsigned int m_Index;
+    const std::size_t m_Offset; ///< of the account among the figures of each thread, in bytes
     MemAccount* const m_Next;
     Figures m_Ended; ///< of threads that have ended, and of blocks counted without a thread's heap
 };

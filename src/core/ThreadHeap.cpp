@@ -189,9 +189,9 @@ struct ThreadHeap::Heaps
         *link = heap->next;
         for (MemAccount* account = MemAccount::sm_First.load(); account != nullptr; account = account->m_Next)
         {
-            if (account->m_Index < sm_OwnAccounts)
+            if (const MemAccount::Figures* const figures = figuresOf(*heap, *account))
             {
-                heap->figures[account->m_Index].addTo(account->m_Ended);
+                figures->addTo(account->m_Ended);
             }
         }
     }
@@ -293,9 +293,12 @@ MemAccount::Usage ThreadHeap::usage(const MemAccount& account)
     const std::lock_guard<std::mutex> lock(heaps.mutex);
     MemAccount::Figures sum;
     account.m_Ended.addTo(sum);
-    for (const Heap* heap = heaps.first; heap != nullptr && account.m_Index < sm_OwnAccounts; heap = heap->next)
+    for (Heap* heap = heaps.first; heap != nullptr; heap = heap->next)
     {
-        heap->figures[account.m_Index].addTo(sum);
+        if (const MemAccount::Figures* const figures = figuresOf(*heap, account))
+        {
+            figures->addTo(sum);
+        }
     }
     return sum.usage();
 }

@@ -152,12 +152,22 @@ private:
         Heap* next = nullptr;
     };
 
-    /// This thread's figures of an account; null where it keeps none of its own.
+    /// A thread's figures of an account; null where it keeps none of its own.
+    static MemAccount::Figures* figuresOf(Heap& heap, const MemAccount& account)
+    {
+        if (__builtin_expect(account.m_Offset >= sizeof heap.figures, 0))
+        {
+            return nullptr;
+        }
+        char* const first = reinterpret_cast<char*>(heap.figures.data());
+        return reinterpret_cast<MemAccount::Figures*>(first + account.m_Offset);
+    }
+
+    /// Those of this thread.
     static MemAccount::Figures* ownFigures(const MemAccount& account)
     {
         Heap* const heap = st_Heap;
-        const bool kept = heap != nullptr && account.m_Index < sm_OwnAccounts;
-        return __builtin_expect(kept, 1) ? &heap->figures[account.m_Index] : nullptr;
+        return __builtin_expect(heap != nullptr, 1) ? figuresOf(*heap, account) : nullptr;
     }
 
     /// Counts a block that an account has taken, or has given back.

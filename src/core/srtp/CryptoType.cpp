@@ -15,7 +15,8 @@ namespace
 
 constexpr std::string_view s_Names[] = {"AES_CM_128_HMAC_SHA1_80", "AES_CM_128_HMAC_SHA1_32", "F8_128_HMAC_SHA1_80"};
 
-/// The eight bytes at a place, letters as small ones. Other bytes may change too, so that equal ones may differ no more.
+/// The eight bytes at a place, letters as small ones. Other bytes may change too, so that equal ones may differ no
+/// more.
 std::uint64_t smallLetters(const char* place)
 {
     std::uint64_t bytes;

@@ -36,7 +36,8 @@ constexpr const char* s_ParameterNames[] = {
     "KDR", "UNENCRYPTED_SRTP", "UNENCRYPTED_SRTCP", "UNAUTHENTICATED_SRTP", "FEC_ORDER", "FEC_KEY", "WSH"};
 
 /// Takes the bytes in front of the first stop, white space in front of them passed over. Nothing at the end of input,
-/// and for a token that is too long. The stops are known to the compiler, which compares no byte with one of them twice.
+/// and for a token that is too long. The stops are known to the compiler, which compares no byte with one of them
+/// twice.
 template <const LmFewBytes& stops, typename Cursor>
 std::optional<std::string_view> takeToken(Cursor& cursor)
 {

@@ -54,12 +54,16 @@ LmSdpDescription::FieldTokens::FieldTokens(const char* tokens)
 }
 
 LmSdpDescription::LmSdpDescription(const char* token, const char* fieldTokens)
-    : m_Token(LmString::sAdopt(lmSdpTokenBuffer(token))), m_FieldTokens(fieldTokens), m_Letters(sLettersOf(m_FieldTokens.view()))
+    : m_Token(LmString::sAdopt(lmSdpTokenBuffer(token)))
+    , m_FieldTokens(fieldTokens)
+    , m_Letters(sLettersOf(m_FieldTokens.view()))
 {
 }
 
 LmSdpDescription::LmSdpDescription(const char* token, const FieldTokens& fieldTokens)
-    : m_Token(LmString::sAdopt(lmSdpTokenBuffer(token))), m_FieldTokens(fieldTokens.text), m_Letters(fieldTokens.letters)
+    : m_Token(LmString::sAdopt(lmSdpTokenBuffer(token)))
+    , m_FieldTokens(fieldTokens.text)
+    , m_Letters(fieldTokens.letters)
 {
 }
 
