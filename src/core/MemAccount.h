@@ -102,7 +102,7 @@ private:
     const std::string m_Name;
     const std::size_t m_Offset; ///< of the account among the figures of each thread, in bytes
     MemAccount* const m_Next;
-    Figures m_Ended; ///< of threads that have ended, and of blocks counted without a thread's heap
+    Figures m_Ended; ///< of blocks counted without a thread's heap
 };
 
 /// An account that is looked up by its name at first use; it needs no constructor to run before that.

@@ -114,22 +114,6 @@ public:
         list = emptyList(sizeClass);
     }
 
-    /// Leaves all blocks to other threads.
-    void surrender(std::size_t sizeClass, List& list)
-    {
-        while (m_Unused >= bytesOf(sizeClass))
-        {
-            list.push(static_cast<Block*>(carve(sizeClass)));
-        }
-        for (Block* head : {list.head, m_Aside})
-        {
-            if (head != nullptr)
-            {
-                immortal<Depot>().put(sizeClass, head);
-            }
-        }
-    }
-
 private:
     void* carve(std::size_t sizeClass)
     {
@@ -165,70 +149,71 @@ ThreadHeap::Heap::Heap()
     }
 }
 
+/// A heap with its supplies. When its thread has ended it waits for the next one, with all its blocks: were these dealt
+/// out to several threads, neighbours in one cache line would make the threads wait for each other.
+struct ThreadHeap::WholeHeap
+{
+    Heap heap;
+    std::array<Supply, sm_Classes> supplies;
+    WholeHeap* nextIdle = nullptr;
+};
+
 /// All heaps; its lock is also the one of the figures that stand in the accounts themselves.
 struct ThreadHeap::Heaps
 {
     std::mutex mutex;
     Heap* first = nullptr;
+    WholeHeap* idle = nullptr;
 
-    void enter(Heap* heap)
+    /// A heap that no thread has; null when there is none and none can be made.
+    WholeHeap* lend()
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        heap->next = first;
-        first = heap;
+        if (idle != nullptr)
+        {
+            return std::exchange(idle, idle->nextIdle);
+        }
+        auto* const whole = new (std::nothrow) WholeHeap;
+        if (whole != nullptr)
+        {
+            whole->heap.supplies = whole->supplies.data();
+            whole->heap.next = std::exchange(first, &whole->heap);
+        }
+        return whole;
     }
 
-    void leave(Heap* heap)
+    void takeBack(WholeHeap* whole)
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        Heap** link = &first;
-        while (*link != heap)
-        {
-            link = &(*link)->next;
-        }
-        *link = heap->next;
-        for (MemAccount* account = MemAccount::sm_First.load(); account != nullptr; account = account->m_Next)
-        {
-            if (const MemAccount::Figures* const figures = figuresOf(*heap, *account))
-            {
-                figures->addTo(account->m_Ended);
-            }
-        }
+        whole->nextIdle = std::exchange(idle, whole);
     }
 };
 
-/// Takes a thread's heap down when the thread ends. What the thread frees after that goes straight to the depot.
+/// Holds a heap for a thread. What the thread frees after its end goes straight to the depot.
 struct ThreadHeap::HeapOwner
 {
-    HeapOwner()
-    {
-        heap.supplies = supplies.data();
-        immortal<Heaps>().enter(&heap);
-        st_Heap = &heap;
-    }
+    HeapOwner() : whole(immortal<Heaps>().lend()) {}
 
     ~HeapOwner()
     {
         st_Ended = true;
         st_Heap = nullptr;
-        immortal<Heaps>().leave(&heap);
-        for (std::size_t sizeClass = 0; sizeClass < sm_Classes; ++sizeClass)
+        if (whole != nullptr)
         {
-            supplies[sizeClass].surrender(sizeClass, heap.current[sizeClass]);
+            immortal<Heaps>().takeBack(whole);
         }
     }
 
-    Heap heap;
-    std::array<Supply, sm_Classes> supplies;
+    WholeHeap* const whole;
 };
 
-/// Gives null in a thread that is past the end of its thread-local objects.
+/// Gives null in a thread that is past the end of its thread-local objects, and where no heap can be made.
 ThreadHeap::Heap* ThreadHeap::sMakeHeap()
 {
     if (!st_Ended)
     {
         thread_local HeapOwner t_Owner;
-        st_Heap = &t_Owner.heap;
+        st_Heap = t_Owner.whole != nullptr ? &t_Owner.whole->heap : nullptr;
     }
     return st_Heap;
 }

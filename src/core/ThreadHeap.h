@@ -26,8 +26,8 @@ namespace Quorvex
 ///
 /// Blocks come from chunks that grow with use. Full lists of a thread that frees more than it takes go to a depot
 /// that all threads share, a whole list at a time, so no memory is stranded where one thread reads and another
-/// releases. Chunks are not given back to the system before the process ends. Under a sanitizer each block is the
-/// system's own, so that the sanitizer sees its bounds and its end.
+/// releases. When a thread ends, the next new one gets its lists. Chunks are not given back to the system before the
+/// process ends. Under a sanitizer each block is the system's own, so that the sanitizer sees its bounds and its end.
 class HARNWICK_CORE_API ThreadHeap
 {
 public:
@@ -138,6 +138,7 @@ private:
 
     class Supply;
     struct Depot;
+    struct WholeHeap;
     struct HeapOwner;
     struct Heaps;
 
