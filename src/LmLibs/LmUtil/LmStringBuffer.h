@@ -68,17 +68,7 @@ public:
     int compareWith(const char* text) const;
     using LmObject::compareWith;
 
-    unsigned long Release(bool destroyAtZero = true) override
-    {
-        const unsigned long count = LmObject::Release(false);
-        if (__builtin_expect(count == 0 && destroyAtZero, 1))
-        {
-            sDestroy(this);
-        }
-        return count;
-    }
-
-    /// The same for LmString, which knows the class: not through the object's table.
+    /// What `Release` does, for LmString, which knows the class: not through the object's table.
     void drop()
     {
         if (dropsLast())
