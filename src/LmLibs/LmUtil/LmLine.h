@@ -4,6 +4,7 @@
 #include "LmLibs/LmUtil/LmException.h"
 #include "LmLibs/LmUtil/LmInputStream.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -77,8 +78,8 @@ private:
     }
 
     /// Finds in one pass over the range what there is to know of its first line.
-    LMUTIL_API void mark(const char* begin, const char* end);
-    void markRest(const char* end);
+    void mark(const char* begin, const char* end);
+    LMUTIL_API __attribute__((cold)) void markRest(const char* end);
     LMUTIL_API __attribute__((cold)) void copy(LmInputStream& in, const char* emptyMessage);
 
     std::unique_ptr<const std::string> m_Copy;
@@ -87,3 +88,34 @@ private:
     const char* m_Colon;
     bool m_HasNul;
 };
+
+inline void LmLine::mark(const char* begin, const char* end)
+{
+    const char* place = begin;
+    const char* colon = nullptr;
+    unsigned int controls = 0;
+#ifdef __SSE2__
+    // Line ends show among the control characters, of which a line has hardly any others: up to the first of those,
+    // sixteen bytes are looked at together.
+    constexpr std::ptrdiff_t blockSize = 16;
+    const auto maskOf = [](__m128i hits) { return static_cast<unsigned int>(_mm_movemask_epi8(hits)); };
+    for (; controls == 0 && end - place >= blockSize; place += controls == 0 ? blockSize : __builtin_ctz(controls))
+    {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(place));
+        controls = maskOf(lmHitsUpTo(bytes, '\r'));
+        if (__builtin_expect(colon == nullptr, 1))
+        {
+            const unsigned int colons = maskOf(lmHitsOf(bytes, ':')) & ~controls & (controls - 1);
+            colon = colons != 0 ? place + __builtin_ctz(colons) : nullptr;
+        }
+    }
+#endif
+    m_Begin = begin;
+    m_End = place;
+    m_Colon = colon;
+    m_HasNul = false;
+    if (__builtin_expect(controls == 0 || !lmIsLineEnd(*place), 0))
+    {
+        markRest(end);
+    }
+}
