@@ -12,6 +12,7 @@ namespace
 
 constexpr std::size_t s_ListBytes = 32 * 1024;
 constexpr std::size_t s_SmallestChunk = 512;
+constexpr std::size_t s_CacheLine = 64;
 
 /// Memory from the system, to be cut into blocks. The link keeps each chunk in reach of whoever looks for leaks.
 struct Chunk
@@ -127,7 +128,8 @@ private:
     {
         const std::size_t room = std::clamp(m_Taken / 4, s_SmallestChunk, s_ListBytes) - sizeof(Chunk);
         const std::size_t bytes = room - room % blockBytes;
-        auto* const chunk = static_cast<Chunk*>(::operator new(sizeof(Chunk) + bytes));
+        // In cache lines of its own: the next chunk may be another thread's.
+        auto* const chunk = static_cast<Chunk*>(::operator new(sizeof(Chunk) + bytes, std::align_val_t(s_CacheLine)));
         chunk->bytes = bytes;
         immortal<Depot>().keep(chunk);
         m_Chunk = reinterpret_cast<unsigned char*>(chunk + 1);

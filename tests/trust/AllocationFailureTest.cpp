@@ -17,14 +17,15 @@ namespace
 /// How many more allocations of this thread succeed; below 0 for all of them.
 thread_local long t_Left = -1;
 
-void* allocate(std::size_t size)
+void* allocate(std::size_t size, std::align_val_t alignment = std::align_val_t(alignof(std::max_align_t)))
 {
     if (t_Left == 0)
     {
         throw std::bad_alloc();
     }
     t_Left -= t_Left > 0 ? 1 : 0;
-    if (void* const block = std::malloc(size == 0 ? 1 : size))
+    const auto step = static_cast<std::size_t>(alignment);
+    if (void* const block = std::aligned_alloc(step, (size / step + 1) * step))
     {
         return block;
     }
@@ -62,7 +63,7 @@ unsigned int failAtEach(const std::function<void()>& action, const std::function
     }
 }
 
-const std::string s_Long(300, 'x');
+const std::string s_Long(400, 'x');
 
 const std::string s_Body = "v=0\r\no=" + s_Long + " 1 1 IN IP4 192.0.2.1\r\ns=" + s_Long + "\r\ni=" + s_Long +
                            "\r\nu=http://192.0.2.1/\r\ne=user (Desk)\r\np=+1 617 (Desk)\r\nc=IN IP4 192.0.2.1\r\n"
@@ -84,6 +85,10 @@ void* operator new[](std::size_t size)
 {
     return allocate(size);
 }
+void* operator new(std::size_t size, std::align_val_t alignment)
+{
+    return allocate(size, alignment);
+}
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     return std::malloc(size == 0 ? 1 : size);
@@ -93,6 +98,10 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
     return std::malloc(size == 0 ? 1 : size);
 }
 void operator delete(void* block) noexcept
+{
+    giveBack(block);
+}
+void operator delete(void* block, std::align_val_t) noexcept
 {
     giveBack(block);
 }
