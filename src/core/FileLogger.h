@@ -34,7 +34,7 @@ public:
     }
 
 private:
-    __attribute__((cold)) Logger* make();
+    [[gnu::cold]] Logger* make();
 
     const char* m_Category;
     std::atomic<Logger*> m_pLogger{nullptr};

@@ -93,8 +93,8 @@ private:
 
     ///@{
     /// The way of blocks that are large, or for which the thread has nothing at hand.
-    __attribute__((cold)) void* allocateSlowly(std::size_t size, std::size_t ofPointers);
-    __attribute__((cold)) void deallocateSlowly(Header* header, std::size_t ofPointers) noexcept;
+    [[gnu::cold]] void* allocateSlowly(std::size_t size, std::size_t ofPointers);
+    [[gnu::cold]] void deallocateSlowly(Header* header, std::size_t ofPointers) noexcept;
     ///@}
 
     static std::atomic<MemAccount*> sm_First;
@@ -123,7 +123,7 @@ public:
     }
 
 private:
-    __attribute__((cold)) MemAccount& find();
+    [[gnu::cold]] MemAccount& find();
 
     const char* m_Name;
     std::atomic<MemAccount*> m_pAccount{nullptr};

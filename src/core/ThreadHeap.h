@@ -184,8 +184,8 @@ private:
     }
 
     // Told to be cold here too, so that callers lay these ways out behind all others.
-    __attribute__((cold)) static void* sAllocateSlowly(std::size_t size);
-    __attribute__((cold)) static void sDeallocateSlowly(void* block, std::size_t size) noexcept;
+    [[gnu::cold]] static void* sAllocateSlowly(std::size_t size);
+    [[gnu::cold]] static void sDeallocateSlowly(void* block, std::size_t size) noexcept;
     static Heap* sMakeHeap();
 
     /// The calling thread's heap; null before its first block and after the thread's end. `__thread`, since it never

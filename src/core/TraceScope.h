@@ -37,13 +37,13 @@ public:
 protected:
     ///@{
     /// Write the two lines.
-    __attribute__((cold)) void ctorLog() const;
-    __attribute__((cold)) void dtorLog() const;
+    [[gnu::cold]] void ctorLog() const;
+    [[gnu::cold]] void dtorLog() const;
     ///@}
 
 private:
     /// The way of a logger that somebody may listen to.
-    __attribute__((cold)) void begin(const Logger* pLogger, const char* name);
+    [[gnu::cold]] void begin(const Logger* pLogger, const char* name);
 
     const Logger* m_pLogger;
     const char* m_Name;

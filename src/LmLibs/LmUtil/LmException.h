@@ -30,11 +30,11 @@ public:
     const char* getMessage() const;
 
     /// Throws an LmException with that message.
-    [[noreturn]] __attribute__((cold)) static void sThrow(const char* message);
+    [[noreturn, gnu::cold]] static void sThrow(const char* message);
 
     /// Throws the object itself, so that it arrives with its own class, and takes it over. It must have been made with
     /// the `new` of its class, not the global one, and its class must have LmException as its first base.
-    [[noreturn]] __attribute__((cold)) static void sThrow(LmException* pException);
+    [[noreturn, gnu::cold]] static void sThrow(LmException* pException);
 
     ///@{
     /// An exception is made where the run-time system can throw it in place, which still works when memory has run

@@ -79,8 +79,8 @@ private:
 
     /// Finds in one pass over the range what there is to know of its first line.
     void mark(const char* begin, const char* end);
-    LMUTIL_API __attribute__((cold)) void markRest(const char* end);
-    LMUTIL_API __attribute__((cold)) void copy(LmInputStream& in, const char* emptyMessage);
+    [[gnu::cold]] LMUTIL_API void markRest(const char* end);
+    [[gnu::cold]] LMUTIL_API void copy(LmInputStream& in, const char* emptyMessage);
 
     std::unique_ptr<const std::string> m_Copy;
     const char* m_Begin;

@@ -7,10 +7,14 @@
 class LMSDP_API LmSdpChangeable : public LmObject
 {
 protected:
+    /// Not changed.
     LmSdpChangeable() = default;
 
+    ///@{
+    /// The flag.
     bool isChanged() const { return m_IsChanged; }
     void setChanged(bool changed) const { m_IsChanged = changed; }
+    ///@}
 
 private:
     mutable bool m_IsChanged = false;

@@ -97,10 +97,11 @@ protected:
     /// The field tokens that all objects of a class share.
     struct FieldTokens
     {
+        /// `tokens` is as the public constructor takes it.
         explicit FieldTokens(const char* tokens);
 
-        const LmString text; ///< is not counted
-        const std::uint32_t letters;
+        const LmString text;         ///< is not counted
+        const std::uint32_t letters; ///< as `sLettersOf` gives
     };
 
     /// What the public constructor does, for a class that has made its field tokens once.

@@ -12,7 +12,7 @@
 using LmSdpTokenBuffer = char[4];
 
 /// The way of tokens that are no single letter, and of streams without a window.
-LMSDP_LOCAL __attribute__((cold)) void lmSdpTakeLongToken(LmInputStream& in, LmSdpTokenBuffer& token);
+[[gnu::cold]] LMSDP_LOCAL void lmSdpTakeLongToken(LmInputStream& in, LmSdpTokenBuffer& token);
 
 /// Takes a line's token and the "=" behind it. Nearly every token is one letter, which a window shows at a glance.
 inline void lmSdpTakeToken(LmInputStream& in, LmSdpTokenBuffer& token)

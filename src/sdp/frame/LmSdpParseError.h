@@ -15,5 +15,5 @@ public:
     ~LmSdpParseError() override;
 
     /// Throws an LmSdpParseError with that message.
-    [[noreturn]] __attribute__((cold)) static void sThrow(const char* message);
+    [[noreturn, gnu::cold]] static void sThrow(const char* message);
 };

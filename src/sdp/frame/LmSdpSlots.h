@@ -16,9 +16,10 @@ public:
     /// One slot for each letter.
     static constexpr unsigned int sm_Count = 15;
 
+    /// The lines of one letter.
     struct Chain
     {
-        LmHandle<LmSdpField> hFirst;
+        LmHandle<LmSdpField> hFirst; ///< leads to the others
 
         /// Where the search for the last line begins: one that was the last when it was looked for.
         LmSdpField* pLast;

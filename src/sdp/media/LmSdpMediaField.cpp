@@ -17,12 +17,12 @@ Quorvex::FileLogger s_Logger("harnwick.lm.LmSdpMediaField");
 
 constexpr std::size_t s_LongestText = 255; ///< of the ports, and of all formats
 
-[[noreturn]] __attribute__((cold)) void refuseIncomplete()
+[[noreturn, gnu::cold]] void refuseIncomplete()
 {
     LmException::sThrow("LmSdpMediaField::parse Incomplete Media Field");
 }
 
-[[noreturn]] __attribute__((cold)) void refuse()
+[[noreturn, gnu::cold]] void refuse()
 {
     LmSdpParseError::sThrow("Parse error in LmSdpMediaField::parse()");
 }
