@@ -34,14 +34,17 @@ public:
     /// Larger blocks come from the system.
     static constexpr std::size_t sm_LargestBlock = 352;
 
-    /// How far a small block of whole lines lies behind an address that is aligned for anything.
+    /// How far a small block of a rounded size lies behind an address that is aligned for anything.
     static constexpr std::size_t sm_Offset = 8;
 
-    /// A size, rounded up to whole lines.
-    static constexpr std::size_t wholeLines(std::size_t size) { return (size + sm_Line - 1) / sm_Line * sm_Line; }
+    /// A size, rounded up to the next multiple of 16.
+    static constexpr std::size_t rounded(std::size_t size)
+    {
+        return (size + sm_Alignment - 1) / sm_Alignment * sm_Alignment;
+    }
 
-    /// Small blocks are aligned as a pointer is. Those of whole lines lie 8 bytes behind an address that is aligned for
-    /// anything, so that what stands behind a header of 8 bytes is; large blocks lie on such an address.
+    /// Small blocks are aligned as a pointer is. Those of a rounded size lie 8 bytes behind an address that is aligned
+    /// for anything, so that what stands behind a header of 8 bytes is; large blocks lie on such an address.
     /// @throws std::bad_alloc
     static void* allocate(std::size_t size)
     {
@@ -102,7 +105,7 @@ private:
 
     static constexpr bool sm_SystemBlocks = QUORVEX_SANITIZED != 0;
     static constexpr std::size_t sm_Granule = 8;
-    static constexpr std::size_t sm_Line = 16;
+    static constexpr std::size_t sm_Alignment = 16;
     static constexpr std::size_t sm_Classes = sm_LargestBlock / sm_Granule + 1;
 
     /// Accounts beyond these are counted under a lock.
@@ -205,7 +208,7 @@ struct MemAccount::Header
 constexpr std::size_t MemAccount::smallBytes(std::size_t size, std::size_t ofPointers)
 {
     const std::size_t bytes = size + sizeof(Header);
-    return size == ofPointers ? bytes : ThreadHeap::wholeLines(bytes);
+    return size == ofPointers ? bytes : ThreadHeap::rounded(bytes);
 }
 
 inline void* MemAccount::allocate(std::size_t size, std::size_t ofPointers)

@@ -49,7 +49,7 @@ private:
     }
     static constexpr std::size_t bytesOf(std::size_t size)
     {
-        return inFront(size) == 0 ? size : ThreadHeap::wholeLines(size + inFront(size));
+        return inFront(size) == 0 ? size : ThreadHeap::rounded(size + inFront(size));
     }
 };
 

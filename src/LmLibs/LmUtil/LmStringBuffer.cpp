@@ -90,6 +90,7 @@ struct LmEmptyText
     std::uint32_t m_Room = 0;
     char m_Text[4] = {};
 };
+static_assert(sizeof(LmEmptyText) == sizeof(LmStringBuffer) + 2 * s_RoomInFront);
 
 namespace
 {
