@@ -2,7 +2,7 @@
 
 const LmSdpDescription::FieldTokens& LmSdpMediaDescription::sFieldTokens()
 {
-    static const FieldTokens s_Tokens("micbka");
+    static const FieldTokens& s_Tokens = *new FieldTokens("micbka"); // outlives every object
     return s_Tokens;
 }
 

@@ -25,7 +25,7 @@ bool isToken(const char* token, char letter)
 
 const LmSdpDescription::FieldTokens& LmSdpSessionDescription::sFieldTokens()
 {
-    static const FieldTokens s_Tokens("vosiuepcbzka");
+    static const FieldTokens& s_Tokens = *new FieldTokens("vosiuepcbzka"); // outlives every object
     return s_Tokens;
 }
 

@@ -2,7 +2,7 @@
 
 const LmSdpDescription::FieldTokens& LmSdpTimeDescription::sFieldTokens()
 {
-    static const FieldTokens s_Tokens("tr");
+    static const FieldTokens& s_Tokens = *new FieldTokens("tr"); // outlives every object
     return s_Tokens;
 }
 
